@@ -1,0 +1,18 @@
+// Copyright Corvane. MIT License.
+#pragma once
+
+#include "Delegates/Delegate.h"
+#include "Input/Reply.h"
+#include "Internationalization/Text.h"
+#include "Styling/SlateTypes.h"
+#include "Types/SlateEnums.h"
+
+class SWidget;
+
+/** @file The delegates that widgets share. */
+
+DECLARE_DELEGATE_RetVal(FReply, FOnClicked)
+DECLARE_DELEGATE_RetVal(TSharedRef<SWidget>, FOnGetContent)
+DECLARE_DELEGATE_OneParam(FOnTextChanged, const FText&)
+DECLARE_DELEGATE_TwoParams(FOnTextCommitted, const FText&, ETextCommit::Type)
+DECLARE_DELEGATE_OneParam(FOnCheckStateChanged, ECheckBoxState)

@@ -1,0 +1,35 @@
+// Copyright Corvane. MIT License.
+#include "Styling/SlateStyleRegistry.h"
+
+#include "Containers/Map.h"
+
+namespace
+{
+	TMap<FName, const ISlateStyle*>& GetRegisteredStyles()
+	{
+		static TMap<FName, const ISlateStyle*> RegisteredStyles;
+		return RegisteredStyles;
+	}
+}
+
+void FSlateStyleRegistry::RegisterSlateStyle(const ISlateStyle& InSlateStyle)
+{
+	const FName& StyleName = InSlateStyle.GetStyleSetName();
+	checkf(FindSlateStyle(StyleName) == nullptr, TEXT("Slate style '%s' is registered already"), *StyleName.ToString());
+	GetRegisteredStyles().Add(StyleName, &InSlateStyle);
+}
+
+void FSlateStyleRegistry::UnRegisterSlateStyle(const ISlateStyle& InSlateStyle)
+{
+	UnRegisterSlateStyle(InSlateStyle.GetStyleSetName());
+}
+
+void FSlateStyleRegistry::UnRegisterSlateStyle(const FName StyleName)
+{
+	GetRegisteredStyles().Remove(StyleName);
+}
+
+const ISlateStyle* FSlateStyleRegistry::FindSlateStyle(const FName& InSlateStyleName)
+{
+	return GetRegisteredStyles().FindRef(InSlateStyleName);
+}

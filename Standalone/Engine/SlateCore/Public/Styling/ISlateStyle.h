@@ -1,0 +1,19 @@
+// Copyright Corvane. MIT License.
+#pragma once
+
+#include "Styling/SlateBrush.h"
+#include "Styling/StyleDefaults.h"
+
+/** A named set of brushes. Keys are names and so ignore the case of ASCII letters. */
+class SLATECORE_API ISlateStyle
+{
+public:
+	virtual ~ISlateStyle() = default;
+
+	virtual const FName& GetStyleSetName() const = 0;
+	/** The key's brush, or the default brush when there is none: never null. */
+	virtual const FSlateBrush* GetBrush(const FName PropertyName, const ANSICHAR* Specifier = nullptr) const = 0;
+	/** The key's brush, or the given one when there is none. */
+	virtual const FSlateBrush* GetOptionalBrush(const FName PropertyName, const ANSICHAR* Specifier = nullptr,
+		const FSlateBrush* const DefaultBrush = FStyleDefaults::GetNoBrush()) const = 0;
+};
