@@ -1,0 +1,6 @@
+// Copyright Corvane. MIT License.
+#include "LevelEditorViewport.h"
+
+FLevelEditorViewportClient::FLevelEditorViewportClient(const TSharedPtr<SLevelViewport>& /*InLevelViewport*/)
+	: FEditorViewportClient(nullptr)
+{}

@@ -1,0 +1,5 @@
+// Copyright Corvane. MIT License.
+#include "StandaloneEditorEvents.h"
+
+FStandaloneEditorEvents::FContentSync FStandaloneEditorEvents::ContentSync;
+FStandaloneEditorEvents::FRedraw FStandaloneEditorEvents::Redraw;
