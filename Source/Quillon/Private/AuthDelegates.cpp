@@ -1,0 +1,4 @@
+// Copyright Corvane. MIT License.
+#include "AuthDelegates.h"
+
+TMulticastDelegate<void(FString, FString)> AuthDelegates::OnUpgradeAvailable;

@@ -1,0 +1,5 @@
+// Copyright Corvane. MIT License.
+#include "CoreMinimal.h"
+#include "Modules/ModuleManager.h"
+
+IMPLEMENT_MODULE(FDefaultModuleImpl, Quillon)

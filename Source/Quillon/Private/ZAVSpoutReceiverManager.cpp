@@ -1,0 +1,7 @@
+// Copyright Corvane. MIT License.
+#include "ZAVSpoutReceiverManager.h"
+
+AZAVSpoutReceiverManager::AZAVSpoutReceiverManager()
+{
+	SpoutReceivers.Add(FZAVSpoutReceiverInterface());
+}
