@@ -1,0 +1,105 @@
+// Copyright Corvane. MIT License.
+// The one place that includes CLI11, which the engine's macros would break.
+#include "CommandLine.h"
+
+#include "ErrorText.h"
+#include "Unicode.h"
+
+#include <CLI/CLI.hpp>
+
+namespace
+{
+	constexpr const char* NoWindow =
+		"this version has no window yet; `quillon-editor create NAME` does the job without one (see --help)";
+	constexpr const char* NoScreenshot = "--screenshot needs the editor window, which this build does not have";
+
+	FCommandLine Refuse(const std::string& Reason)
+	{
+		FCommandLine Result;
+		Result.Status = EExitStatus::BadInput;
+		Result.ErrorLine = "quillon-editor: " + FErrorText::OneLine(Reason);
+		return Result;
+	}
+
+	FCommandLine Print(std::string Text)
+	{
+		FCommandLine Result;
+		Result.Output = std::move(Text);
+		if (Result.Output.empty() || Result.Output.back() != '\n')
+		{
+			Result.Output += '\n';
+		}
+		return Result;
+	}
+
+	/** The arguments as CLI11 fills them in. */
+	struct FArguments
+	{
+		FCreateOptions Create;
+		std::optional<std::string> Screenshot;
+		CLI::App App{"The editor of the plugin, on its own stand-alone engine.", "quillon-editor"};
+		CLI::App* CreateCommand = nullptr;
+
+		FArguments();
+	};
+
+	FArguments::FArguments()
+	{
+		App.set_version_flag("--version", "quillon-editor " QUILLON_VERSION);
+		CreateCommand = App.add_subcommand(
+			"create", "Makes a streaming setup from one stream name: a render target, an aimed camera and a sender entry");
+		CreateCommand->add_option("NAME", Create.Name, "the stream name (put -- before a name that starts with -)")
+			->required();
+		CreateCommand->add_option("--level", Create.LevelFile, "level to open first (default: an empty one)")
+			->type_name("FILE");
+		CreateCommand->add_option("--save", Create.SaveFile, "where to save the level afterwards")->type_name("FILE");
+		CreateCommand->add_option("--screenshot", Screenshot, "picture of the wizard (needs the window)")
+			->type_name("PNG");
+		CreateCommand->add_flag("--json", Create.bJson, "print one JSON object instead of text");
+		CreateCommand->add_option("--saved", Create.SavedDir, "folder for what the editor remembers")->type_name("DIR");
+		CreateCommand->add_option("--project", Create.ProjectDir, "folder that holds the plugin's descriptor")
+			->type_name("DIR");
+	}
+
+	FCommandLine Check(const FArguments& Arguments)
+	{
+		std::u16string Ignored;
+		if (!Arguments.CreateCommand->parsed())
+		{
+			return Refuse(NoWindow);
+		}
+		if (Arguments.Screenshot)
+		{
+			return Refuse(NoScreenshot);
+		}
+		if (!FUnicode::ToUtf16(Arguments.Create.Name, Ignored))
+		{
+			return Refuse("NAME is not well-formed UTF-8");
+		}
+		FCommandLine Result;
+		Result.Create = Arguments.Create;
+		return Result;
+	}
+}
+
+FCommandLine FCommandLine::Parse(int ArgumentCount, char** Arguments)
+{
+	FArguments Parsed;
+	try
+	{
+		Parsed.App.parse(ArgumentCount, Arguments);
+	}
+	catch (const CLI::CallForHelp&)
+	{
+		return Print(Parsed.App.help());
+	}
+	catch (const CLI::CallForVersion& Version)
+	{
+		return Print(Version.what());
+	}
+	catch (const CLI::ParseError& Problem)
+	{
+		return Refuse(Problem.what());
+	}
+	return Check(Parsed);
+}

@@ -1,0 +1,16 @@
+// Copyright Corvane. MIT License.
+#pragma once
+
+class FEditorViewportClient;
+class UWorld;
+
+/** What the editor shows: its level's world and the view into it. */
+class FEditorViews
+{
+public:
+	/** @return the world of the open level. */
+	static UWorld* GetLevelWorld();
+
+	/** @return the client of the active viewport, or null if no viewport is active. */
+	static FEditorViewportClient* FindActiveClient();
+};

@@ -1,0 +1,191 @@
+// Copyright Corvane. MIT License.
+#include "FileAccess.h"
+
+#include "ErrorText.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <system_error>
+
+namespace
+{
+	/** A file descriptor that is closed at the end of its scope. */
+	class FDescriptor
+	{
+	public:
+		explicit FDescriptor(int InHandle) : Handle(InHandle) {}
+		FDescriptor(const FDescriptor&) = delete;
+		FDescriptor& operator=(const FDescriptor&) = delete;
+		~FDescriptor()
+		{
+			Close();
+		}
+
+		int Get() const { return Handle; }
+		bool IsOpen() const { return Handle >= 0; }
+
+		/** @return false if the system reports a failure only now, as network file systems may. */
+		bool Close()
+		{
+			const int Closing = Handle;
+			Handle = -1;
+			return Closing < 0 || ::close(Closing) == 0;
+		}
+
+	private:
+		int Handle;
+	};
+
+	bool Fail(const std::string& Path, const std::string& Reason, std::string& OutError)
+	{
+		OutError = FErrorText::ForFile(Path, Reason);
+		return false;
+	}
+
+	bool FailWithErrno(const std::string& Path, std::string& OutError)
+	{
+		return Fail(Path, std::strerror(errno), OutError);
+	}
+
+	bool ReadAll(int Handle, size_t MaxSize, std::string& OutBytes)
+	{
+		std::string Buffer(size_t(64) * 1024, '\0');
+		// One byte more than allowed tells a file that grew since it was measured.
+		while (OutBytes.size() <= MaxSize)
+		{
+			const ssize_t Count = ::read(Handle, Buffer.data(), Buffer.size());
+			if (Count < 0 && errno == EINTR)
+			{
+				continue;
+			}
+			if (Count <= 0)
+			{
+				return Count == 0;
+			}
+			OutBytes.append(Buffer, 0, static_cast<size_t>(Count));
+		}
+		errno = EFBIG;
+		return false;
+	}
+
+	bool WriteAll(int Handle, const std::string& Bytes)
+	{
+		size_t Done = 0;
+		while (Done < Bytes.size())
+		{
+			const ssize_t Count = ::write(Handle, Bytes.data() + Done, Bytes.size() - Done);
+			if (Count < 0 && errno != EINTR)
+			{
+				return false;
+			}
+			Done += Count > 0 ? static_cast<size_t>(Count) : 0;
+		}
+		return true;
+	}
+
+	/** The access rights that a newly created file gets, or those of the file that is replaced. */
+	mode_t ModeFor(const std::string& Path)
+	{
+		struct stat Info{};
+		if (::stat(Path.c_str(), &Info) == 0)
+		{
+			return Info.st_mode & 07777U;
+		}
+		const mode_t Mask = ::umask(0);
+		::umask(Mask);
+		return 0666U & ~Mask;
+	}
+
+	/** The file that is meant: behind symbolic links, so that a link stays a link. */
+	std::string ResolveLinks(const std::string& Path)
+	{
+		std::error_code Error;
+		const std::filesystem::path Real = std::filesystem::canonical(Path, Error);
+		return Error ? Path : Real.string();
+	}
+
+	/** @return false if something stands at Path that must not be replaced. */
+	bool MayReplace(const std::string& Path, std::string& OutError)
+	{
+		struct stat Info{};
+		if (::stat(Path.c_str(), &Info) != 0)
+		{
+			// A missing file is fine; anything else (a file where a folder should be, no right to look) is not.
+			return errno == ENOENT || FailWithErrno(Path, OutError);
+		}
+		if (!S_ISREG(Info.st_mode))
+		{
+			return Fail(Path, S_ISDIR(Info.st_mode) ? std::strerror(EISDIR) : "not a regular file", OutError);
+		}
+		return ::access(Path.c_str(), W_OK) == 0 || FailWithErrno(Path, OutError);
+	}
+
+	bool FillTemporary(FDescriptor& File, const std::string& Target, const std::string& Bytes)
+	{
+		return WriteAll(File.Get(), Bytes) && ::fchmod(File.Get(), ModeFor(Target)) == 0 && ::fsync(File.Get()) == 0 &&
+			   File.Close();
+	}
+
+	/** Makes the rename itself durable. A file system that cannot do this has still replaced the file, so no error. */
+	void FlushFolder(const std::filesystem::path& Folder)
+	{
+		const FDescriptor Handle(::open(Folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+		if (Handle.IsOpen())
+		{
+			::fsync(Handle.Get());
+		}
+	}
+}
+
+bool FFileAccess::Read(const std::string& Path, size_t MaxSize, std::string& OutBytes, std::string& OutError)
+{
+	OutBytes.clear();
+	// Without O_NONBLOCK a named pipe would wait for a writer before it can be refused.
+	const FDescriptor File(::open(Path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+	struct stat Info{};
+	if (!File.IsOpen() || ::fstat(File.Get(), &Info) != 0)
+	{
+		return FailWithErrno(Path, OutError);
+	}
+	if (!S_ISREG(Info.st_mode))
+	{
+		return Fail(Path, S_ISDIR(Info.st_mode) ? std::strerror(EISDIR) : "not a regular file", OutError);
+	}
+	if (static_cast<size_t>(Info.st_size) > MaxSize)
+	{
+		return Fail(Path, "larger than " + std::to_string(MaxSize >> 20U) + " MiB", OutError);
+	}
+	OutBytes.reserve(static_cast<size_t>(Info.st_size));
+	return ReadAll(File.Get(), MaxSize, OutBytes) || FailWithErrno(Path, OutError);
+}
+
+bool FFileAccess::Replace(const std::string& Path, const std::string& Bytes, std::string& OutError)
+{
+	if (!MayReplace(Path, OutError))
+	{
+		return false;
+	}
+	const std::filesystem::path Target = ResolveLinks(Path);
+	const std::filesystem::path Folder = Target.has_parent_path() ? Target.parent_path() : std::filesystem::path(".");
+	std::string Temporary = (Folder / ".quillon-XXXXXX").string();
+	FDescriptor File(::mkostemp(Temporary.data(), O_CLOEXEC));
+	if (!File.IsOpen())
+	{
+		return FailWithErrno(Path, OutError);
+	}
+	if (!FillTemporary(File, Target.string(), Bytes) || std::rename(Temporary.c_str(), Target.c_str()) != 0)
+	{
+		FailWithErrno(Path, OutError);
+		::unlink(Temporary.c_str());
+		return false;
+	}
+	FlushFolder(Folder);
+	return true;
+}

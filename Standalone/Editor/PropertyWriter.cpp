@@ -1,0 +1,216 @@
+// Copyright Corvane. MIT License.
+#include "PropertyWriter.h"
+
+#include "ErrorText.h"
+#include "StrictJson.h"
+
+#include <cmath>
+#include <vector>
+
+#include "EngineText.h"
+#include "LevelProperties.h"
+#include "UObject/Class.h"
+#include "UObject/UnrealType.h"
+
+using nlohmann::ordered_json;
+
+namespace
+{
+	/** A default-constructed structure, to compare the elements of arrays with. */
+	class FDefaultStruct
+	{
+	public:
+		explicit FDefaultStruct(const UScriptStruct* InStruct)
+			: Struct(InStruct), Memory(::operator new(Size(), std::align_val_t(Alignment())))
+		{
+			Struct->InitializeStruct(Memory);
+		}
+		FDefaultStruct(const FDefaultStruct&) = delete;
+		FDefaultStruct& operator=(const FDefaultStruct&) = delete;
+		~FDefaultStruct()
+		{
+			Struct->DestroyStruct(Memory);
+			::operator delete(Memory, std::align_val_t(Alignment()));
+		}
+		const void* Get() const { return Memory; }
+
+	private:
+		size_t Size() const { return static_cast<size_t>(Struct->GetStructureSize()); }
+		size_t Alignment() const { return static_cast<size_t>(Struct->GetMinAlignment()); }
+
+		const UScriptStruct* Struct;
+		void* Memory;
+	};
+}
+
+FPropertyWriter::FPropertyWriter(const FReferenceTexts& InReferences, std::string& OutError)
+	: References(InReferences), Error(OutError)
+{
+}
+
+bool FPropertyWriter::WriteMembers(
+	const UStruct* Struct, const void* Container, const void* Defaults, ordered_json& OutJson, const FPlace& Place)
+{
+	OutJson = ordered_json::object();
+	for (TFieldIterator<FProperty> It(Struct); It; ++It)
+	{
+		const FProperty* Property = *It;
+		if (!FLevelProperties::IsStored(Struct, Property))
+		{
+			continue;
+		}
+		if (!WriteMember(Property, Property->ContainerPtrToValuePtr<void>(Container),
+				Property->ContainerPtrToValuePtr<void>(Defaults), OutJson, Place))
+		{
+			return false;
+		}
+	}
+	return true;
+}
+
+bool FPropertyWriter::WriteMember(
+	const FProperty* Property, const void* Value, const void* Default, ordered_json& Members, const FPlace& Place)
+{
+	const std::string Name = FEngineText::ForDisplay(Property->GetFName());
+	const FObjectProperty* Object = CastField<FObjectProperty>(Property);
+	ordered_json Json;
+	if (const UObject* Component = Object ? FLevelProperties::GetOwnComponent(Object, Value) : nullptr)
+	{
+		if (!WriteMembers(Component->GetClass(), Component, Component->GetArchetype(), Json, Place / Name))
+		{
+			return false;
+		}
+		if (!Json.empty())
+		{
+			Members[Name] = std::move(Json);
+		}
+		return true;
+	}
+	if (Property->Identical(Value, Default))
+	{
+		return true;
+	}
+	if (!WriteValue(Property, Value, Default, Json, Place / Name))
+	{
+		return false;
+	}
+	Members[Name] = std::move(Json);
+	return true;
+}
+
+bool FPropertyWriter::WriteValue(
+	const FProperty* Property, const void* Value, const void* Default, ordered_json& OutJson, const FPlace& Place)
+{
+	if (const FBoolProperty* Bool = CastField<FBoolProperty>(Property))
+	{
+		OutJson = Bool->GetPropertyValue(Value);
+		return true;
+	}
+	if (const FIntProperty* Int = CastField<FIntProperty>(Property))
+	{
+		OutJson = Int->GetPropertyValue(Value);
+		return true;
+	}
+	if (const FFloatProperty* Float = CastField<FFloatProperty>(Property))
+	{
+		return WriteFloat(Float->GetPropertyValue(Value), OutJson, Place);
+	}
+	if (const FStrProperty* String = CastField<FStrProperty>(Property))
+	{
+		return WriteString(String->GetPropertyValue(Value), OutJson, Place);
+	}
+	if (const FNameProperty* Name = CastField<FNameProperty>(Property))
+	{
+		return WriteString(Name->GetPropertyValue(Value).ToString(), OutJson, Place);
+	}
+	if (const FStructProperty* Struct = CastField<FStructProperty>(Property))
+	{
+		return WriteStruct(Struct, Value, Default, OutJson, Place);
+	}
+	if (const FArrayProperty* Array = CastField<FArrayProperty>(Property))
+	{
+		return WriteArray(Array, Value, OutJson, Place);
+	}
+	if (const FObjectProperty* Object = CastField<FObjectProperty>(Property))
+	{
+		return WriteReference(Object->GetObjectPropertyValue(Value), OutJson, Place);
+	}
+	return Refuse(Place, "properties of this kind can't stand in a level file");
+}
+
+bool FPropertyWriter::WriteArray(
+	const FArrayProperty* Property, const void* Value, ordered_json& OutJson, const FPlace& Place)
+{
+	OutJson = ordered_json::array();
+	FScriptArrayHelper Elements(Property, Value);
+	for (int32 Index = 0; Index < Elements.Num(); ++Index)
+	{
+		ordered_json Element;
+		if (!WriteValue(Property->Inner, Elements.GetRawPtr(Index), nullptr, Element, Place / static_cast<size_t>(Index)))
+		{
+			return false;
+		}
+		OutJson.push_back(std::move(Element));
+	}
+	return true;
+}
+
+bool FPropertyWriter::WriteStruct(const FStructProperty* Property, const void* Value, const void* Default,
+	ordered_json& OutJson, const FPlace& Place)
+{
+	if (Default)
+	{
+		return WriteMembers(Property->Struct, Value, Default, OutJson, Place);
+	}
+	// An element of an array is read into a new one.
+	const FDefaultStruct Defaults(Property->Struct);
+	return WriteMembers(Property->Struct, Value, Defaults.Get(), OutJson, Place);
+}
+
+bool FPropertyWriter::WriteReference(const UObject* Object, ordered_json& OutJson, const FPlace& Place)
+{
+	if (!Object)
+	{
+		OutJson = nullptr;
+		return true;
+	}
+	const auto Found = References.find(Object);
+	if (Found == References.end())
+	{
+		return Refuse(Place, "refers to " + FErrorText::Quote(FEngineText::ForDisplay(Object->GetPathName())) +
+								 ", which is no part of the level");
+	}
+	OutJson = Found->second;
+	return true;
+}
+
+bool FPropertyWriter::WriteString(const FString& Text, ordered_json& OutJson, const FPlace& Place)
+{
+	std::string Bytes;
+	if (!FEngineText::ToUtf8(Text, Bytes))
+	{
+		return Refuse(Place, "the text is not well-formed Unicode");
+	}
+	if (Bytes.find('\0') != std::string::npos)
+	{
+		return Refuse(Place, "the text holds a null character");
+	}
+	OutJson = std::move(Bytes);
+	return true;
+}
+
+bool FPropertyWriter::WriteFloat(float Number, ordered_json& OutJson, const FPlace& Place)
+{
+	if (!std::isfinite(Number))
+	{
+		return Refuse(Place, "the number is not finite");
+	}
+	OutJson = FStrictJson::Number(Number);
+	return true;
+}
+
+bool FPropertyWriter::Refuse(const FPlace& Place, const std::string& Reason)
+{
+	Error = FErrorText::AtPlace(Place.to_string(), Reason);
+	return false;
+}

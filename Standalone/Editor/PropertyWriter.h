@@ -1,0 +1,60 @@
+// Copyright Corvane. MIT License.
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+#include <string>
+#include <unordered_map>
+
+#include "CoreMinimal.h"
+
+class FArrayProperty;
+class FProperty;
+class FStructProperty;
+class UObject;
+class UStruct;
+
+/**
+ * Puts reflected properties into JSON, in the form that FPropertyReader reads. What has its default value is left out, so
+ * that a level file says what is special in it, and follows when a default changes.
+ */
+class FPropertyWriter
+{
+public:
+	/** What references are written as: paths of assets and names of actors. Other objects can't be referred to. */
+	using FReferenceTexts = std::unordered_map<const UObject*, std::string>;
+	using FPlace = nlohmann::json::json_pointer;
+
+	/** On refusal OutError is `JSON pointer: reason`. */
+	FPropertyWriter(const FReferenceTexts& InReferences, std::string& OutError);
+
+	/**
+	 * Writes those members of Container, an instance of Struct, that differ from those of Defaults.
+	 * @return false for what no file can hold: text that is no well-formed Unicode, a number that is not finite, a reference
+	 *         out of the level.
+	 */
+	bool WriteMembers(const UStruct* Struct, const void* Container, const void* Defaults,
+		nlohmann::ordered_json& OutJson, const FPlace& Place);
+
+	/** Text as JSON holds it, or a refusal. */
+	bool WriteString(const FString& Text, nlohmann::ordered_json& OutJson, const FPlace& Place);
+
+	/** A finite number, or a refusal. */
+	bool WriteFloat(float Number, nlohmann::ordered_json& OutJson, const FPlace& Place);
+
+private:
+	/** Adds the member to Members unless it has its default value. */
+	bool WriteMember(const FProperty* Property, const void* Value, const void* Default, nlohmann::ordered_json& Members,
+		const FPlace& Place);
+	bool WriteValue(const FProperty* Property, const void* Value, const void* Default, nlohmann::ordered_json& OutJson,
+		const FPlace& Place);
+	bool WriteArray(
+		const FArrayProperty* Property, const void* Value, nlohmann::ordered_json& OutJson, const FPlace& Place);
+	bool WriteStruct(const FStructProperty* Property, const void* Value, const void* Default,
+		nlohmann::ordered_json& OutJson, const FPlace& Place);
+	bool WriteReference(const UObject* Object, nlohmann::ordered_json& OutJson, const FPlace& Place);
+	bool Refuse(const FPlace& Place, const std::string& Reason);
+
+	const FReferenceTexts& References;
+	std::string& Error;
+};

@@ -1,0 +1,24 @@
+// Copyright Corvane. MIT License.
+#include "CommandLine.h"
+#include "CreateCommand.h"
+#include "StandardOutput.h"
+
+#include <csignal>
+
+int main(int ArgumentCount, char** Arguments)
+{
+	// A write beyond a limit or into a closed pipe shall fail with an error that can be reported, not end the program.
+	std::signal(SIGXFSZ, SIG_IGN);
+	std::signal(SIGPIPE, SIG_IGN);
+	const FCommandLine CommandLine = FCommandLine::Parse(ArgumentCount, Arguments);
+	if (CommandLine.Create)
+	{
+		return static_cast<int>(FCreateCommand::Run(*CommandLine.Create));
+	}
+	if (!CommandLine.ErrorLine.empty())
+	{
+		FStandardOutput::WriteError(CommandLine.ErrorLine);
+		return static_cast<int>(CommandLine.Status);
+	}
+	return static_cast<int>(FStandardOutput::Write(CommandLine.Output) ? CommandLine.Status : EExitStatus::BadInput);
+}
