@@ -1,7 +1,7 @@
 // Copyright Corvane. MIT License.
 #pragma once
 
-#include "Model.h"
+#include "Header.h"
 
 #include <string>
 #include <vector>

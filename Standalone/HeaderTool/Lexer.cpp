@@ -113,7 +113,8 @@ std::vector<FToken> FLexer::Run()
 		{
 			LexWord();
 		}
-		else if (std::isdigit(static_cast<unsigned char>(Char)) || (Char == '.' && std::isdigit(static_cast<unsigned char>(Peek(1)))))
+		else if (std::isdigit(static_cast<unsigned char>(Char)) ||
+			(Char == '.' && std::isdigit(static_cast<unsigned char>(Peek(1)))))
 		{
 			LexNumber();
 		}
@@ -140,8 +141,7 @@ void FLexer::SkipLineComment()
 		if (Peek() == '\\' && (Peek(1) == '\n' || (Peek(1) == '\r' && Peek(2) == '\n')))
 		{
 			while (Take() != '\n')
-			{
-			}
+			{}
 			continue;
 		}
 		Take();
@@ -175,8 +175,7 @@ void FLexer::LexDirective()
 		if (Peek() == '\\' && (Peek(1) == '\n' || (Peek(1) == '\r' && Peek(2) == '\n')))
 		{
 			while (Take() != '\n')
-			{
-			}
+			{}
 			Text += ' ';
 		}
 		else if (!Quote && StartsWith("//"))
@@ -230,8 +229,8 @@ void FLexer::LexWord()
 void FLexer::LexNumber()
 {
 	const size_t Begin = Position;
-	while (IsWordPart(Peek()) || Peek() == '.' || (Peek() == '\'' && IsWordPart(Peek(1)))
-		|| ((Peek() == '+' || Peek() == '-') && std::strchr("eEpP", Source[Position - 1]) && Source[Begin + 1] != 'x'))
+	while (IsWordPart(Peek()) || Peek() == '.' || (Peek() == '\'' && IsWordPart(Peek(1))) ||
+		((Peek() == '+' || Peek() == '-') && std::strchr("eEpP", Source[Position - 1]) && Source[Begin + 1] != 'x'))
 	{
 		++Position;
 	}

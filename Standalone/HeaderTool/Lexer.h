@@ -32,7 +32,8 @@ struct FToken
 	std::string Describe() const;
 };
 
-/** Cuts C++ source into tokens; comments vanish. The last token is the end. Throws FSourceError for what is not closed. */
+/** Cuts C++ source into tokens; comments vanish. The last token is the end. Throws FSourceError for what is not closed.
+ */
 class FLexer
 {
 public:

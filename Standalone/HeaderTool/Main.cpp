@@ -73,7 +73,8 @@ namespace
 		}
 	}
 
-	/** Includes are relative to the module's public or private folder; a header elsewhere is included as it was named. */
+	/** Includes are relative to the module's public or private folder; a header elsewhere is included as it was named.
+	 */
 	std::string GetIncludePath(const std::string& Path)
 	{
 		for (const char* Folder : {"/Public/", "/Private/"})
@@ -128,7 +129,8 @@ namespace
 				{
 					if (Type.Name.substr(1) == OtherType.Name.substr(1))
 					{
-						throw FSourceError(Type.Line, Type.Name + " has the name of " + OtherType.Name + " in " + Other.Path);
+						throw FSourceError(
+							Type.Line, Type.Name + " has the name of " + OtherType.Name + " in " + Other.Path);
 					}
 				}
 			}

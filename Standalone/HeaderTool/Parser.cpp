@@ -46,12 +46,13 @@ std::vector<FReflectedType> FParser::Run()
 			TakeDirective();
 			continue;
 		}
-		if (IsReflectionMacro(Token))
+		if (FNames::IsReflectionMacro(Token))
 		{
 			CheckReflectedPlace(Token);
 			if (!Token.Is("UCLASS") && !Token.Is("USTRUCT"))
 			{
-				throw FSourceError(Token.Line, Token.Text + " outside of a class with UCLASS or a structure with USTRUCT");
+				throw FSourceError(
+					Token.Line, Token.Text + " outside of a class with UCLASS or a structure with USTRUCT");
 			}
 			if (Depth > 0)
 			{
@@ -96,7 +97,7 @@ void FParser::TakeDirective()
 
 void FParser::CheckReflectedPlace(const FToken& Token) const
 {
-	if (IsUnsupportedMacro(Token.Text))
+	if (FNames::IsUnsupportedMacro(Token.Text))
 	{
 		throw FSourceError(Token.Line, Token.Text + " is not supported");
 	}
@@ -169,10 +170,10 @@ void FParser::ParseHead(FReflectedType& Type)
 	}
 	Type.Name = Name.Text;
 	Type.Line = Name.Line;
-	if (!HasPrefix(Type.Name, Type.bIsClass ? "UA" : "F"))
+	if (!FNames::HasPrefix(Type.Name, Type.bIsClass ? "UA" : "F"))
 	{
-		throw FSourceError(
-			Name.Line, "the name " + Type.Name + " must begin with " + (Type.bIsClass ? "U or A" : "F") + " and a capital");
+		throw FSourceError(Name.Line,
+			"the name " + Type.Name + " must begin with " + (Type.bIsClass ? "U or A" : "F") + " and a capital");
 	}
 	Tokens.TakeIf("final");
 	if (Tokens.TakeIf(":"))
@@ -200,8 +201,7 @@ void FParser::ParseBody(FReflectedType& Type)
 	Access = Type.bIsClass ? EAccess::Private : EAccess::Public;
 	int Depth = 1;
 	while (!ParseMember(Type, Depth))
-	{
-	}
+	{}
 	Tokens.Expect(";", "after " + Type.Name);
 }
 
@@ -217,7 +217,7 @@ bool FParser::ParseMember(FReflectedType& Type, int& Depth)
 		TakeDirective();
 		return false;
 	}
-	if (IsReflectionMacro(Token))
+	if (FNames::IsReflectionMacro(Token))
 	{
 		CheckReflectedPlace(Token);
 		if (Depth > 1 || Token.Is("UCLASS") || Token.Is("USTRUCT"))
@@ -225,9 +225,9 @@ bool FParser::ParseMember(FReflectedType& Type, int& Depth)
 			throw FSourceError(Token.Line, Token.Text + " within another type or a function of " + Type.Name);
 		}
 		Tokens.Take();
-		Token.Is("GENERATED_BODY") ? ParseGeneratedBody(Type)
-			: Token.Is("UPROPERTY")  ? ParseProperty(Type)
-									 : ParseFunction(Type);
+		Token.Is("GENERATED_BODY")  ? ParseGeneratedBody(Type)
+			: Token.Is("UPROPERTY") ? ParseProperty(Type)
+									: ParseFunction(Type);
 		return false;
 	}
 	if (Depth == 1 && ParseAccess())
@@ -280,14 +280,15 @@ void FParser::ParseFunction(const FReflectedType& Type)
 	}
 	ReadSpecifiers(Tokens, ESpecifierPlace::Function);
 	CheckDeclarationFollows("UFUNCTION");
-	static const std::set<std::string> Modifiers = {"virtual", "static", "inline", "FORCEINLINE", "class", "struct", "const"};
+	static const std::set<std::string> Modifiers = {
+		"virtual", "static", "inline", "FORCEINLINE", "class", "struct", "const"};
 	int TypeWords = 0;
 	while (!Tokens.Peek(1).Is("("))
 	{
 		const FToken Token = Tokens.Take();
-		const bool bPart = Token.Kind == ETokenKind::Identifier ? !IsReflectionMacro(Token)
-																: Token.Is("*") || Token.Is("&") || Token.Is("<")
-				|| Token.Is(">") || Token.Is(",") || Token.Is("::");
+		const bool bPart = Token.Kind == ETokenKind::Identifier
+			? !FNames::IsReflectionMacro(Token)
+			: Token.Is("*") || Token.Is("&") || Token.Is("<") || Token.Is(">") || Token.Is(",") || Token.Is("::");
 		if (!bPart || Token.Is("operator"))
 		{
 			throw FSourceError(Line, "UFUNCTION must be followed by a function, found " + Token.Describe());
@@ -301,8 +302,7 @@ void FParser::ParseFunction(const FReflectedType& Type)
 	}
 	SkipBalanced("(", ")", "parameters of " + Name.Text);
 	while (Tokens.TakeIf("const") || Tokens.TakeIf("override") || Tokens.TakeIf("final"))
-	{
-	}
+	{}
 	if (Tokens.Peek().Is("{"))
 	{
 		SkipBalanced("{", "}", "body of " + Name.Text);
@@ -313,7 +313,7 @@ void FParser::ParseFunction(const FReflectedType& Type)
 
 void FParser::CheckDeclarationFollows(const std::string& Macro) const
 {
-	if (IsReflectionMacro(Tokens.Peek()))
+	if (FNames::IsReflectionMacro(Tokens.Peek()))
 	{
 		throw FSourceError(
 			Tokens.Peek().Line, Macro + " must be followed by a declaration, found " + Tokens.Peek().Describe());
@@ -336,7 +336,7 @@ void FParser::SkipBalanced(const char* Open, const char* Close, const std::strin
 			TakeDirective();
 			continue;
 		}
-		if (IsReflectionMacro(Token))
+		if (FNames::IsReflectionMacro(Token))
 		{
 			throw FSourceError(Token.Line, Token.Text + " within the " + What);
 		}

@@ -1,14 +1,14 @@
 // Copyright Corvane. MIT License.
 #pragma once
 
-#include "Model.h"
+#include "Header.h"
 #include "TokenStream.h"
 
 #include <string>
 
 /**
- * Finds the reflected classes, structures, properties and functions of a header. Everything else is passed over, as long as no
- * reflected thing hides in it. Throws FSourceError.
+ * Finds the reflected classes, structures, properties and functions of a header. Everything else is passed over, as
+ * long as no reflected thing hides in it. Throws FSourceError.
  */
 class FParser
 {

@@ -65,16 +65,17 @@ void FParser::ParsePropertyType(FReflectedProperty& Property, bool bInArray)
 	{
 		throw FSourceError(Name.Line, "template '" + Name.Text + "' is not supported as a property's type");
 	}
-	const bool bObject = HasPrefix(Name.Text, "UA");
+	const bool bObject = FNames::HasPrefix(Name.Text, "UA");
 	if (bPointer && !bObject)
 	{
-		throw FSourceError(Name.Line, "a pointer to '" + Name.Text + "', which is no class of objects, is not supported");
+		throw FSourceError(
+			Name.Line, "a pointer to '" + Name.Text + "', which is no class of objects, is not supported");
 	}
 	if (!bPointer && bObject)
 	{
 		throw FSourceError(Name.Line, "objects are held by pointer: '" + Name.Text + "*'");
 	}
-	if (!bObject && !IsValueType(Name.Text) && !HasPrefix(Name.Text, "F"))
+	if (!bObject && !IsValueType(Name.Text) && !FNames::HasPrefix(Name.Text, "F"))
 	{
 		throw FSourceError(Name.Line, "unknown property type '" + Name.Text + "'");
 	}
@@ -102,9 +103,9 @@ void FParser::ParsePropertyEnd(const FReflectedProperty& Property)
 	if (!After.Is("="))
 	{
 		const std::string Reason = After.Is("[") ? "arrays of fixed size are not supported, use TArray"
-			: After.Is(",")						 ? "one declaration can't make several properties"
-			: After.Is(":")						 ? "bit fields are not supported, use bool"
-												 : "expected ';' after property " + Property.Name + " but found " + After.Describe();
+			: After.Is(",")                      ? "one declaration can't make several properties"
+			: After.Is(":")                      ? "bit fields are not supported, use bool"
+							: "expected ';' after property " + Property.Name + " but found " + After.Describe();
 		throw FSourceError(After.Line, Reason);
 	}
 	while (!Tokens.Peek().Is(";"))
@@ -133,9 +134,10 @@ void FParser::CheckProperty(const FReflectedProperty& Property, int Line) const
 		throw FSourceError(Line, "Instanced needs a pointer to an object, or an array of them");
 	}
 	// The engine's own tool refuses these, so a plugin that has them would not build there.
-	if (Access == EAccess::Private && Specifiers.HasFlag("CPF_BlueprintVisible")
-		&& !Specifiers.HasMetaData("AllowPrivateAccess"))
+	if (Access == EAccess::Private && Specifiers.HasFlag("CPF_BlueprintVisible") &&
+		!Specifiers.HasMetaData("AllowPrivateAccess"))
 	{
-		throw FSourceError(Line, "BlueprintReadOnly or BlueprintReadWrite on a private member needs meta=(AllowPrivateAccess=true)");
+		throw FSourceError(
+			Line, "BlueprintReadOnly or BlueprintReadWrite on a private member needs meta=(AllowPrivateAccess=true)");
 	}
 }

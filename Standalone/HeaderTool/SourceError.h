@@ -4,7 +4,8 @@
 #include <stdexcept>
 #include <string>
 
-/** Something in a header that the tool does not understand, with its line. Thrown, since nothing can be made of such a header. */
+/** Something in a header that the tool does not understand, with its line. Thrown, since nothing can be made of such a
+ * header. */
 class FSourceError : public std::runtime_error
 {
 public:

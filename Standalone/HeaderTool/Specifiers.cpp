@@ -42,8 +42,7 @@ namespace
 					{"HideCategories", EValue::List, {}, "HideCategories", nullptr},
 					{"Abstract", EValue::None, {"CLASS_Abstract"}, nullptr, nullptr},
 					{"DefaultToInstanced", EValue::None, {"CLASS_DefaultToInstanced"}, nullptr, nullptr},
-					{"Placeable", EValue::None, {}, nullptr, nullptr},
-					{"meta", EValue::Meta, {}, nullptr, nullptr}}},
+					{"Placeable", EValue::None, {}, nullptr, nullptr}, {"meta", EValue::Meta, {}, nullptr, nullptr}}},
 			{ESpecifierPlace::Struct,
 				{{"BlueprintType", EValue::None, {}, "BlueprintType", nullptr},
 					{"meta", EValue::Meta, {}, nullptr, nullptr}}},
@@ -55,7 +54,8 @@ namespace
 					{"BlueprintReadWrite", EValue::None, {"CPF_BlueprintVisible"}, nullptr, "blueprint"},
 					{"Interp", EValue::None, {"CPF_Edit", "CPF_BlueprintVisible", "CPF_Interp"}, nullptr, nullptr},
 					{"Instanced", EValue::None,
-						{"CPF_PersistentInstance", "CPF_ExportObject", "CPF_InstancedReference"}, "EditInline", nullptr},
+						{"CPF_PersistentInstance", "CPF_ExportObject", "CPF_InstancedReference"}, "EditInline",
+						nullptr},
 					{"Transient", EValue::None, {"CPF_Transient"}, nullptr, nullptr},
 					{"AdvancedDisplay", EValue::None, {"CPF_AdvancedDisplay"}, nullptr, nullptr},
 					{"Category", EValue::Single, {}, "Category", nullptr},
@@ -205,7 +205,8 @@ FSpecifiers ReadSpecifiers(FTokenStream& Tokens, ESpecifierPlace Place)
 		}
 		if (Rule.Group && !Groups.insert(Rule.Group).second)
 		{
-			throw FSourceError(Name.Line, "specifier '" + Name.Text + "' contradicts another " + Rule.Group + " specifier");
+			throw FSourceError(
+				Name.Line, "specifier '" + Name.Text + "' contradicts another " + Rule.Group + " specifier");
 		}
 		ReadOne(Tokens, Rule, Specifiers, Name.Line);
 	} while (Tokens.TakeIf(","));

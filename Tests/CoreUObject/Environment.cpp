@@ -9,14 +9,8 @@ namespace
 	class FObjectEnvironment : public ::testing::Environment
 	{
 	public:
-		virtual void SetUp() override
-		{
-			RegisterReflection_CoreUObjectTests();
-		}
-		virtual void TearDown() override
-		{
-			StaticExit();
-		}
+		virtual void SetUp() override { RegisterReflection_CoreUObjectTests(); }
+		virtual void TearDown() override { StaticExit(); }
 	};
 
 	::testing::Environment* const Registered = ::testing::AddGlobalTestEnvironment(new FObjectEnvironment());

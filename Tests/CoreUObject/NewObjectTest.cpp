@@ -13,10 +13,7 @@ namespace
 	{
 	public:
 		explicit TDefaultValueScope(T& InValue) : Value(InValue), Old(InValue) {}
-		~TDefaultValueScope()
-		{
-			Value = Old;
-		}
+		~TDefaultValueScope() { Value = Old; }
 
 	private:
 		T& Value;
@@ -144,9 +141,13 @@ TEST(GetArchetype, OfAnAddedPartIsItsClassDefaultObject)
 {
 	UTestOwner* const Object = NewObject<UTestOwner>();
 	EXPECT_EQ(NewObject<UTestPart>(Object, TEXT("Added"))->GetArchetype(), GetDefault<UTestPart>());
-	// A part of that name exists in the default object, but it is of another class.
-	UTestOwner* const Other = NewObject<UTestOwner>(GetTransientPackage(), FName());
-	EXPECT_EQ(NewObject<UTestNode>(Other->Part, TEXT("inner_1"))->GetArchetype(), GetDefault<UTestNode>());
+}
+
+TEST(GetArchetype, IsNeverAPartOfAnotherClass)
+{
+	NewObject<UTestNode>(GetMutableDefault<UTestOwner>(), TEXT("Namesake"));
+	UTestOwner* const Object = NewObject<UTestOwner>();
+	EXPECT_EQ(NewObject<UTestPart>(Object, TEXT("Namesake"))->GetArchetype(), GetDefault<UTestPart>());
 }
 
 TEST(NewObjectDeathTest, DiesOfAnAbstractClass)

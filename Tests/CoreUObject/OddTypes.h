@@ -29,9 +29,10 @@ struct FOddPlain
 };
 
 // clang-format off
-USTRUCT( ) struct FOddTight { GENERATED_BODY() UPROPERTY() int32 A{ 1 }; UPROPERTY()int32 B=2; private: UPROPERTY() int32 C = 3; public: int32 GetC() const { return C; } };
+USTRUCT( ) struct FOddTight { GENERATED_BODY() UPROPERTY() int32 A{ 1 }; private: UPROPERTY()int32 B=2; };
 // clang-format on
 
+// clang-format off
 /** Every spelling that the tool accepts, as people write them. */
 UCLASS(
 	blueprinttype, // in any case
@@ -57,7 +58,7 @@ public:
 	UPROPERTY()
 	TArray<struct FTestPoint> Braced = {FTestPoint(), FTestPoint{}};
 
-	UPROPERTY() class UTestNode* Pointer = nullptr; UPROPERTY() float Ratio = 1.0e-3f;
+	UPROPERTY() class UTestNode* Pointer = nullptr; UPROPERTY()float Ratio=1.0e-3f;
 
 	UPROPERTY()
 	FString Tricky = FString(TEXT("; } { UPROPERTY() \" ")) + (true ? TEXT(":") : TEXT(","));
@@ -78,10 +79,7 @@ public:
 	int32 Conditional = 1;
 #endif
 
-	int32 GetHidden() const
-	{
-		return Hidden;
-	}
+	int32 GetHidden() const { return Hidden; }
 
 protected:
 	UPROPERTY(BlueprintReadOnly)
@@ -91,3 +89,4 @@ private:
 	UPROPERTY(EditAnywhere, BlueprintReadOnly, Category = Odd, meta = (AllowPrivateAccess = "true"))
 	int32 Hidden = 6;
 };
+// clang-format on

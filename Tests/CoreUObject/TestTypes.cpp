@@ -2,8 +2,10 @@
 #include "TestTypes.h"
 
 #include "OddTypes.h"
+#include "UObject/WeakObjectPtrTemplates.h"
 
 int32 UTestNode::NumDestroyed = 0;
+int32 UTestNode::NumDyingButHeld = 0;
 TArray<FString> UTestNode::DestroyedNames;
 bool UTestHasty::bMisbehave = false;
 
@@ -14,6 +16,7 @@ UTestNode::~UTestNode()
 
 void UTestNode::BeginDestroy()
 {
+	NumDyingButHeld += TWeakObjectPtr<UTestNode>(this).Get(true) ? 1 : 0;
 	// The neighbour may die too, but it is still there.
 	DestroyedNames.Add(GetName() + (Next ? TEXT(">") + Next->GetName() : FString()));
 }
@@ -42,6 +45,7 @@ UTestOwner::UTestOwner()
 	SamePart = Part;
 	Secret = CreateDefaultSubobject<UTestPart>(TEXT("Secret"), true);
 	AllParts = {Part, Secret};
+	CreateDefaultSubobject<UTestPart>(TEXT("Unreferenced"));
 }
 
 UTestDerivedOwner::UTestDerivedOwner()

@@ -98,6 +98,8 @@ public:
 	UTestNode* Unseen = nullptr;
 
 	static int32 NumDestroyed;
+	/** How many could still be reached by a weak pointer when they were told of their end. */
+	static int32 NumDyingButHeld;
 	static TArray<FString> DestroyedNames;
 };
 
@@ -132,6 +134,12 @@ public:
 };
 
 UCLASS()
+class UTestDerivedPart : public UTestPart
+{
+	GENERATED_BODY()
+};
+
+UCLASS()
 class UTestInnerPart : public UObject
 {
 	GENERATED_BODY()
@@ -163,10 +171,7 @@ public:
 	UPROPERTY()
 	UObject* Shared = nullptr;
 
-	UTestPart* GetSecret() const
-	{
-		return Secret;
-	}
+	UTestPart* GetSecret() const { return Secret; }
 
 private:
 	UPROPERTY()

@@ -41,9 +41,12 @@ TEST(HeaderTool, RegistersAllTypesOfTheModuleInOneFunction)
 	Tool.Write("Other.h", "#include \"Other.generated.h\"\nUSTRUCT()\nstruct FOther\n{\n\tGENERATED_BODY()\n};\n");
 	ASSERT_TRUE(Tool.Run({"Thing.h", "Other.h"})) << Tool.GetMessages();
 	const std::string Init = Tool.ReadOutput("Probe.init.gen.cpp");
-	EXPECT_TRUE(Contains(Init, "extern \"C\" __attribute__((visibility(\"default\"))) void RegisterReflection_Probe()\n")) << Init;
-	EXPECT_TRUE(Contains(Init,
-		"RegisterModule({&Z_Construct_UClass_UThing_NoRegister}, {&Z_Construct_UScriptStruct_FOther})")) << Init;
+	EXPECT_TRUE(
+		Contains(Init, "extern \"C\" __attribute__((visibility(\"default\"))) void RegisterReflection_Probe()\n"))
+		<< Init;
+	EXPECT_TRUE(
+		Contains(Init, "RegisterModule({&Z_Construct_UClass_UThing_NoRegister}, {&Z_Construct_UScriptStruct_FOther})"))
+		<< Init;
 }
 
 TEST(HeaderTool, WritesFilesForAHeaderWithoutTypes)

@@ -22,23 +22,11 @@ public:
 	bool RunWith(const std::string& Arguments);
 
 	/** Standard error of the last run, with the folder left out of the paths. */
-	const std::string& GetMessages() const
-	{
-		return Messages;
-	}
-	int GetExitStatus() const
-	{
-		return ExitStatus;
-	}
-	std::filesystem::path GetOutput(const std::string& Name) const
-	{
-		return Folder / "Output" / Name;
-	}
+	const std::string& GetMessages() const { return Messages; }
+	int GetExitStatus() const { return ExitStatus; }
+	std::filesystem::path GetOutput(const std::string& Name) const { return Folder / "Output" / Name; }
 	std::string ReadOutput(const std::string& Name) const;
-	const std::filesystem::path& GetFolder() const
-	{
-		return Folder;
-	}
+	const std::filesystem::path& GetFolder() const { return Folder; }
 
 private:
 	std::filesystem::path Folder;

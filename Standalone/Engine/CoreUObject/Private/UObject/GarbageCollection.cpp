@@ -128,11 +128,6 @@ FGCObject::~FGCObject()
 	Holders.erase(std::find(Holders.begin(), Holders.end(), this));
 }
 
-bool IsGarbageCollecting()
-{
-	return bCollecting;
-}
-
 void CollectGarbage(EObjectFlags KeepFlags)
 {
 	check(!bCollecting);

@@ -158,27 +158,37 @@ UClass* Z_Construct_UClass_UPackage_NoRegister()
 
 UScriptStruct* TBaseStructure<FVector>::Get()
 {
-	return GetCoreStruct<FVector>(VectorStruct, "Vector", [](UStruct& Struct) {
-		MakeFloats(Struct, {{"X", STRUCT_OFFSET(FVector, X), CPF_Edit, nullptr},
-			{"Y", STRUCT_OFFSET(FVector, Y), CPF_Edit, nullptr}, {"Z", STRUCT_OFFSET(FVector, Z), CPF_Edit, nullptr}});
-	});
+	return GetCoreStruct<FVector>(VectorStruct, "Vector",
+		[](UStruct& Struct)
+		{
+			MakeFloats(Struct,
+				{{"X", STRUCT_OFFSET(FVector, X), CPF_Edit, nullptr},
+					{"Y", STRUCT_OFFSET(FVector, Y), CPF_Edit, nullptr},
+					{"Z", STRUCT_OFFSET(FVector, Z), CPF_Edit, nullptr}});
+		});
 }
 
 UScriptStruct* TBaseStructure<FRotator>::Get()
 {
-	return GetCoreStruct<FRotator>(RotatorStruct, "Rotator", [](UStruct& Struct) {
-		MakeFloats(Struct, {{"Pitch", STRUCT_OFFSET(FRotator, Pitch), CPF_Edit, nullptr},
-			{"Yaw", STRUCT_OFFSET(FRotator, Yaw), CPF_Edit, nullptr},
-			{"Roll", STRUCT_OFFSET(FRotator, Roll), CPF_Edit, nullptr}});
-	});
+	return GetCoreStruct<FRotator>(RotatorStruct, "Rotator",
+		[](UStruct& Struct)
+		{
+			MakeFloats(Struct,
+				{{"Pitch", STRUCT_OFFSET(FRotator, Pitch), CPF_Edit, nullptr},
+					{"Yaw", STRUCT_OFFSET(FRotator, Yaw), CPF_Edit, nullptr},
+					{"Roll", STRUCT_OFFSET(FRotator, Roll), CPF_Edit, nullptr}});
+		});
 }
 
 UScriptStruct* TBaseStructure<FLinearColor>::Get()
 {
-	return GetCoreStruct<FLinearColor>(LinearColorStruct, "LinearColor", [](UStruct& Struct) {
-		MakeFloats(Struct, {{"R", STRUCT_OFFSET(FLinearColor, R), CPF_Edit, nullptr},
-			{"G", STRUCT_OFFSET(FLinearColor, G), CPF_Edit, nullptr},
-			{"B", STRUCT_OFFSET(FLinearColor, B), CPF_Edit, nullptr},
-			{"A", STRUCT_OFFSET(FLinearColor, A), CPF_Edit, nullptr}});
-	});
+	return GetCoreStruct<FLinearColor>(LinearColorStruct, "LinearColor",
+		[](UStruct& Struct)
+		{
+			MakeFloats(Struct,
+				{{"R", STRUCT_OFFSET(FLinearColor, R), CPF_Edit, nullptr},
+					{"G", STRUCT_OFFSET(FLinearColor, G), CPF_Edit, nullptr},
+					{"B", STRUCT_OFFSET(FLinearColor, B), CPF_Edit, nullptr},
+					{"A", STRUCT_OFFSET(FLinearColor, A), CPF_Edit, nullptr}});
+		});
 }

@@ -6,7 +6,8 @@
 #include "UObject/Class.h"
 #include "UObject/Package.h"
 
-/** The classes that reflection itself rests on, which nothing could describe before they are there, and the lists of all types. */
+/** The classes that reflection itself rests on, which nothing could describe before they are there, and the lists of
+ * all types. */
 class FIntrinsicClasses
 {
 public:

@@ -9,7 +9,8 @@
 UObject::UObject()
 {
 	const FObjectInitializer* const Initializer = FObjectConstruction::GetCurrent();
-	checkf(Initializer && Initializer->Obj == this, TEXT("Objects are made with NewObject or CreateDefaultSubobject only"));
+	checkf(Initializer && Initializer->Obj == this,
+		TEXT("Objects are made with NewObject or CreateDefaultSubobject only"));
 	ObjectFlags = Initializer->Flags;
 	ClassPrivate = Initializer->Class;
 	NamePrivate = Initializer->Name;
@@ -27,8 +28,8 @@ FString UObject::GetPathName(const UObject* StopOuter) const
 		return GetName();
 	}
 	// The colon stands once, between the object that lies directly in the package and its first part.
-	const bool bFirstPart = !OuterPrivate->IsA<UPackage>() && OuterPrivate->GetOuter()
-		&& OuterPrivate->GetOuter()->IsA<UPackage>();
+	const bool bFirstPart =
+		!OuterPrivate->IsA<UPackage>() && OuterPrivate->GetOuter() && OuterPrivate->GetOuter()->IsA<UPackage>();
 	return OuterPrivate->GetPathName(StopOuter) + (bFirstPart ? TEXT(":") : TEXT(".")) + GetName();
 }
 

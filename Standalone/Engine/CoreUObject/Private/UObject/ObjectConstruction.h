@@ -11,7 +11,8 @@ public:
 	/** What StaticConstructObject_Internal does once the parameters are known to be good. */
 	static UObject* Construct(const FStaticConstructObjectParameters& Params);
 
-	/** A class object while the classes of class objects are themselves being made: nothing but memory and constructor. */
+	/** A class object while the classes of class objects are themselves being made: nothing but memory and constructor.
+	 */
 	static UClass* ConstructRawClass(const ANSICHAR* Name);
 	/** Gives a raw class object the class and outer that it could not have before. */
 	static void CompleteRawClass(UClass* Raw, UClass* ItsClass, UObject* Outer);

@@ -154,10 +154,12 @@ std::vector<UObject*> FObjectTable::FindInside(const UObject* Outer) const
 		}
 	}
 	// Serial numbers tell the order of making; the hash map's order would differ from run to run.
-	std::sort(Result.begin(), Result.end(), [this](const UObject* A, const UObject* B) {
-		return Slots[static_cast<SIZE_T>(A->InternalIndex)].SerialNumber
-			< Slots[static_cast<SIZE_T>(B->InternalIndex)].SerialNumber;
-	});
+	std::sort(Result.begin(), Result.end(),
+		[this](const UObject* A, const UObject* B)
+		{
+			return Slots[static_cast<SIZE_T>(A->InternalIndex)].SerialNumber <
+				Slots[static_cast<SIZE_T>(B->InternalIndex)].SerialNumber;
+		});
 	return Result;
 }
 

@@ -8,8 +8,8 @@
 #include "UObject/Object.h"
 
 /**
- * All living objects: by index, for weak pointers and the collector, and by outer and name. It also hands out their memory.
- * Indices are used again, serial numbers are not.
+ * All living objects: by index, for weak pointers and the collector, and by outer and name. It also hands out their
+ * memory. Indices are used again, serial numbers are not.
  */
 class FObjectTable
 {
@@ -44,14 +44,8 @@ public:
 		GetSlot(Object).Alignment = Alignment;
 	}
 
-	std::vector<FSlot>& GetSlots()
-	{
-		return Slots;
-	}
-	FSlot& GetSlot(const UObject* Object)
-	{
-		return Slots[static_cast<SIZE_T>(Object->InternalIndex)];
-	}
+	std::vector<FSlot>& GetSlots() { return Slots; }
+	FSlot& GetSlot(const UObject* Object) { return Slots[static_cast<SIZE_T>(Object->InternalIndex)]; }
 	/** Null unless there is a living object with that index and serial number. */
 	const FSlot* FindSlot(int32 Index, int32 SerialNumber) const;
 
@@ -70,10 +64,7 @@ public:
 private:
 	struct FNameHash
 	{
-		SIZE_T operator()(const FName& Name) const
-		{
-			return GetTypeHash(Name);
-		}
+		SIZE_T operator()(const FName& Name) const { return GetTypeHash(Name); }
 	};
 	/** What lies in one outer. */
 	struct FInside

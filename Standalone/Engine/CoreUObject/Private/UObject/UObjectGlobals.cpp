@@ -57,7 +57,8 @@ namespace
 			{
 				++End;
 			}
-			Outer = End > Begin ? FObjectTable::Get().Find(Outer, FName(*Path.Mid(Begin, End - Begin), FNAME_Find)) : nullptr;
+			Outer = End > Begin ? FObjectTable::Get().Find(Outer, FName(*Path.Mid(Begin, End - Begin), FNAME_Find))
+								: nullptr;
 			if (!Outer)
 			{
 				return nullptr;
@@ -81,9 +82,8 @@ UObject* StaticFindObject(UClass* Class, UObject* InOuter, const TCHAR* Name, bo
 	if (bAnyPackage && !Path.FindChar(TEXT('.'), Dot) && !Path.IsEmpty())
 	{
 		const FName Wanted(Name, FNAME_Find);
-		return FObjectTable::Get().FindIf([&](const UObject* Object) {
-			return Object->GetFName() == Wanted && IsOfClass(Object, Class, ExactClass);
-		});
+		return FObjectTable::Get().FindIf([&](const UObject* Object)
+			{ return Object->GetFName() == Wanted && IsOfClass(Object, Class, ExactClass); });
 	}
 	UObject* const Found = FindByPath(bAnyPackage ? nullptr : InOuter, Path);
 	return Found && IsOfClass(Found, Class, ExactClass) ? Found : nullptr;

@@ -36,7 +36,8 @@ FObjectProperty::FObjectProperty(FName InName, UClass* InPropertyClass)
 
 UObject* FObjectProperty::GetObjectPropertyValue(const void* PropertyValueAddress) const
 {
-	// The member is a pointer to a derived class: the bytes are copied, since the compiler takes the two types for unrelated.
+	// The member is a pointer to a derived class: the bytes are copied, since the compiler takes the two types for
+	// unrelated.
 	UObject* Value;
 	std::memcpy(&Value, PropertyValueAddress, sizeof(Value));
 	return Value;
@@ -46,11 +47,6 @@ void FObjectProperty::SetObjectPropertyValue(void* PropertyValueAddress, UObject
 {
 	check(!Value || Value->IsA(PropertyClass));
 	std::memcpy(PropertyValueAddress, &Value, sizeof(Value));
-}
-
-void FObjectProperty::InitializeValue(void* Dest) const
-{
-	std::memset(Dest, 0, sizeof(UObject*));
 }
 
 void FObjectProperty::CopyCompleteValue(void* Dest, const void* Src) const
@@ -76,18 +72,7 @@ void FObjectProperty::CollectReferences(void* Value, FReferenceCollector& Collec
 
 FStructProperty::FStructProperty(FName InName, UScriptStruct* InStruct)
 	: FProperty(InName, CASTCLASS_FStructProperty, static_cast<SIZE_T>(InStruct->GetStructureSize())), Struct(InStruct)
-{
-}
-
-void FStructProperty::InitializeValue(void* Dest) const
-{
-	Struct->InitializeStruct(Dest);
-}
-
-void FStructProperty::DestroyValue(void* Dest) const
-{
-	Struct->DestroyStruct(Dest);
-}
+{}
 
 void FStructProperty::CopyCompleteValue(void* Dest, const void* Src) const
 {
@@ -154,11 +139,6 @@ int32 FScriptArrayHelper::AddValue()
 	return Index;
 }
 
-void FScriptArrayHelper::RemoveValues(int32 Index, int32 Count)
-{
-	Property->RemoveFromArray(Array, Index, Count);
-}
-
 void FScriptArrayHelper::EmptyValues()
 {
 	Property->SetArrayNum(Array, 0);
@@ -167,10 +147,5 @@ void FScriptArrayHelper::EmptyValues()
 void FScriptArrayHelper::EmptyAndAddValues(int32 Count)
 {
 	EmptyValues();
-	Property->SetArrayNum(Array, Count);
-}
-
-void FScriptArrayHelper::Resize(int32 Count)
-{
 	Property->SetArrayNum(Array, Count);
 }

@@ -11,22 +11,10 @@ public:
 	TSubclassOf() = default;
 	TSubclassOf(UClass* From) : Class(From) {}
 
-	UClass* Get() const
-	{
-		return Class && Class->IsChildOf(TClass::StaticClass()) ? Class : nullptr;
-	}
-	UClass* operator*() const
-	{
-		return Get();
-	}
-	UClass* operator->() const
-	{
-		return Get();
-	}
-	operator UClass*() const
-	{
-		return Get();
-	}
+	UClass* Get() const { return Class && Class->IsChildOf(TClass::StaticClass()) ? Class : nullptr; }
+	UClass* operator*() const { return Get(); }
+	UClass* operator->() const { return Get(); }
+	operator UClass*() const { return Get(); }
 
 private:
 	UClass* Class = nullptr;

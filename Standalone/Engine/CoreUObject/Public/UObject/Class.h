@@ -14,27 +14,16 @@ class FProperty;
 /** The base of what reflection knows by name and keeps metadata of. */
 class COREUOBJECT_API UField : public UObject
 {
-	DECLARE_CLASS(UField, UObject, CLASS_Abstract | CLASS_Intrinsic, CASTCLASS_None, TEXT("/Script/CoreUObject"), NO_API)
+	DECLARE_CLASS(
+		UField, UObject, CLASS_Abstract | CLASS_Intrinsic, CASTCLASS_None, TEXT("/Script/CoreUObject"), NO_API)
 
 public:
-	bool HasMetaData(const TCHAR* Key) const
-	{
-		return HasMetaData(FName(Key));
-	}
-	bool HasMetaData(const FName& Key) const
-	{
-		return MetaData.Contains(Key);
-	}
+	bool HasMetaData(const TCHAR* Key) const { return HasMetaData(FName(Key)); }
+	bool HasMetaData(const FName& Key) const { return MetaData.Contains(Key); }
 	/** The value of the key, empty if there is none. */
-	const FString& GetMetaData(const TCHAR* Key) const
-	{
-		return GetMetaData(FName(Key));
-	}
+	const FString& GetMetaData(const TCHAR* Key) const { return GetMetaData(FName(Key)); }
 	const FString& GetMetaData(const FName& Key) const;
-	void SetMetaData(const FName& Key, const FString& Value)
-	{
-		MetaData.Add(Key, Value);
-	}
+	void SetMetaData(const FName& Key, const FString& Value) { MetaData.Add(Key, Value); }
 
 private:
 	TMap<FName, FString> MetaData;
@@ -43,15 +32,13 @@ private:
 /** A reflected structure or class: its size, its super and its properties. */
 class COREUOBJECT_API UStruct : public UField
 {
-	DECLARE_CLASS(UStruct, UField, CLASS_Abstract | CLASS_Intrinsic, CASTCLASS_None, TEXT("/Script/CoreUObject"), NO_API)
+	DECLARE_CLASS(
+		UStruct, UField, CLASS_Abstract | CLASS_Intrinsic, CASTCLASS_None, TEXT("/Script/CoreUObject"), NO_API)
 
 public:
 	virtual ~UStruct();
 
-	UStruct* GetSuperStruct() const
-	{
-		return SuperStruct;
-	}
+	UStruct* GetSuperStruct() const { return SuperStruct; }
 	/** Whether this is SomeBase or derived from it. One comparison, however deep. */
 	bool IsChildOf(const UStruct* SomeBase) const
 	{
@@ -64,14 +51,8 @@ public:
 	}
 	/** The property of this or of a super structure, or null. */
 	FProperty* FindPropertyByName(FName InName) const;
-	int32 GetStructureSize() const
-	{
-		return PropertiesSize;
-	}
-	int32 GetMinAlignment() const
-	{
-		return MinAlignment;
-	}
+	int32 GetStructureSize() const { return PropertiesSize; }
+	int32 GetMinAlignment() const { return MinAlignment; }
 
 	/** Set once, before there are properties. */
 	void SetSuperStruct(UStruct* NewSuperStruct);
@@ -111,32 +92,15 @@ public:
 	struct ICppStructOps
 	{
 		virtual ~ICppStructOps() = default;
-		virtual void Construct(void* Dest) const = 0;
-		virtual void Destruct(void* Dest) const = 0;
 		virtual void Copy(void* Dest, const void* Src) const = 0;
 	};
 
-	/** Default-constructs in raw memory. */
-	void InitializeStruct(void* Dest) const
-	{
-		CppStructOps->Construct(Dest);
-	}
-	void DestroyStruct(void* Dest) const
-	{
-		CppStructOps->Destruct(Dest);
-	}
 	/** Assigns all members, reflected or not. */
-	void CopyScriptStruct(void* Dest, const void* Src) const
-	{
-		CppStructOps->Copy(Dest, Src);
-	}
+	void CopyScriptStruct(void* Dest, const void* Src) const { CppStructOps->Copy(Dest, Src); }
 	/** Whether all reflected members are identical. */
 	bool CompareScriptStruct(const void* A, const void* B, uint32 PortFlags) const;
 
-	void SetCppStructOps(TUniquePtr<ICppStructOps> InOps)
-	{
-		CppStructOps = MoveTemp(InOps);
-	}
+	void SetCppStructOps(TUniquePtr<ICppStructOps> InOps) { CppStructOps = MoveTemp(InOps); }
 
 private:
 	TUniquePtr<ICppStructOps> CppStructOps;
@@ -152,14 +116,8 @@ public:
 	typedef void (*ClassConstructorType)(const FObjectInitializer&);
 	typedef void (*ClassAddReferencedObjectsType)(UObject*, FReferenceCollector&);
 
-	UClass* GetSuperClass() const
-	{
-		return static_cast<UClass*>(GetSuperStruct());
-	}
-	bool HasAnyClassFlags(EClassFlags FlagsToCheck) const
-	{
-		return (ClassFlags & FlagsToCheck) != 0;
-	}
+	UClass* GetSuperClass() const { return static_cast<UClass*>(GetSuperStruct()); }
+	bool HasAnyClassFlags(EClassFlags FlagsToCheck) const { return (ClassFlags & FlagsToCheck) != 0; }
 	/** The object that holds the class's default values; made at the first call, after that of the super class. */
 	UObject* GetDefaultObject(bool bCreateIfNeeded = true) const;
 	template <class T>
@@ -192,10 +150,7 @@ T* GetMutableDefault()
 template <typename T>
 struct TBaseStructure
 {
-	static UScriptStruct* Get()
-	{
-		return T::StaticStruct();
-	}
+	static UScriptStruct* Get() { return T::StaticStruct(); }
 };
 
 template <>

@@ -18,37 +18,16 @@ public:
 	FField(const FField&) = delete;
 	FField& operator=(const FField&) = delete;
 
-	FName GetFName() const
-	{
-		return NamePrivate;
-	}
-	FString GetName() const
-	{
-		return NamePrivate.ToString();
-	}
-	bool HasAnyCastFlags(EClassCastFlags InCastFlags) const
-	{
-		return (CastFlags & InCastFlags) != 0;
-	}
+	FName GetFName() const { return NamePrivate; }
+	FString GetName() const { return NamePrivate.ToString(); }
+	bool HasAnyCastFlags(EClassCastFlags InCastFlags) const { return (CastFlags & InCastFlags) != 0; }
 
-	bool HasMetaData(const TCHAR* Key) const
-	{
-		return HasMetaData(FName(Key));
-	}
-	bool HasMetaData(const FName& Key) const
-	{
-		return MetaData.Contains(Key);
-	}
+	bool HasMetaData(const TCHAR* Key) const { return HasMetaData(FName(Key)); }
+	bool HasMetaData(const FName& Key) const { return MetaData.Contains(Key); }
 	/** The value of the key, empty if there is none. */
-	const FString& GetMetaData(const TCHAR* Key) const
-	{
-		return GetMetaData(FName(Key));
-	}
+	const FString& GetMetaData(const TCHAR* Key) const { return GetMetaData(FName(Key)); }
 	const FString& GetMetaData(const FName& Key) const;
-	void SetMetaData(const FName& Key, const FString& Value)
-	{
-		MetaData.Add(Key, Value);
-	}
+	void SetMetaData(const FName& Key, const FString& Value) { MetaData.Add(Key, Value); }
 
 	/** The next member of the same structure, in the order of declaration. */
 	FField* Next = nullptr;

@@ -70,14 +70,6 @@ namespace UE4CodeGen_Private
 	template <typename T>
 	struct TStructOps : public UScriptStruct::ICppStructOps
 	{
-		virtual void Construct(void* Dest) const override
-		{
-			new (Dest) T();
-		}
-		virtual void Destruct(void* Dest) const override
-		{
-			static_cast<T*>(Dest)->~T();
-		}
 		virtual void Copy(void* Dest, const void* Src) const override
 		{
 			*static_cast<T*>(Dest) = *static_cast<const T*>(Src);
@@ -97,40 +89,16 @@ namespace UE4CodeGen_Private
 	public:
 		TArrayProperty(FName InName, FProperty* InInner) : FArrayProperty(InName, InInner, sizeof(TArray<T>)) {}
 
-		virtual void InitializeValue(void* Dest) const override
-		{
-			new (Dest) TArray<T>();
-		}
-		virtual void DestroyValue(void* Dest) const override
-		{
-			Get(Dest).~TArray<T>();
-		}
 		virtual void CopyCompleteValue(void* Dest, const void* Src) const override
 		{
 			Get(Dest) = Get(const_cast<void*>(Src));
 		}
 
 	private:
-		static TArray<T>& Get(void* Array)
-		{
-			return *static_cast<TArray<T>*>(Array);
-		}
-		virtual int32 GetArrayNum(const void* Array) const override
-		{
-			return Get(const_cast<void*>(Array)).Num();
-		}
-		virtual void* GetArrayData(void* Array) const override
-		{
-			return Get(Array).GetData();
-		}
-		virtual void SetArrayNum(void* Array, int32 Num) const override
-		{
-			Get(Array).SetNum(Num);
-		}
-		virtual void RemoveFromArray(void* Array, int32 Index, int32 Count) const override
-		{
-			Get(Array).RemoveAt(Index, Count);
-		}
+		static TArray<T>& Get(void* Array) { return *static_cast<TArray<T>*>(Array); }
+		virtual int32 GetArrayNum(const void* Array) const override { return Get(const_cast<void*>(Array)).Num(); }
+		virtual void* GetArrayData(void* Array) const override { return Get(Array).GetData(); }
+		virtual void SetArrayNum(void* Array, int32 Num) const override { Get(Array).SetNum(Num); }
 	};
 
 	/** Makes the property for a C++ type: here a structure's; a type that is not reflected fails to compile. */
@@ -146,35 +114,26 @@ namespace UE4CodeGen_Private
 	template <typename PropertyType>
 	struct TMakeValueProperty
 	{
-		static FProperty* Make(FName Name, const FPropertyParams&)
-		{
-			return new PropertyType(Name);
-		}
+		static FProperty* Make(FName Name, const FPropertyParams&) { return new PropertyType(Name); }
 	};
 	template <>
 	struct TMakeProperty<bool> : public TMakeValueProperty<FBoolProperty>
-	{
-	};
+	{};
 	template <>
 	struct TMakeProperty<int32> : public TMakeValueProperty<FIntProperty>
-	{
-	};
+	{};
 	template <>
 	struct TMakeProperty<float> : public TMakeValueProperty<FFloatProperty>
-	{
-	};
+	{};
 	template <>
 	struct TMakeProperty<FString> : public TMakeValueProperty<FStrProperty>
-	{
-	};
+	{};
 	template <>
 	struct TMakeProperty<FName> : public TMakeValueProperty<FNameProperty>
-	{
-	};
+	{};
 	template <>
 	struct TMakeProperty<FText> : public TMakeValueProperty<FTextProperty>
-	{
-	};
+	{};
 	template <typename T>
 	struct TMakeProperty<T*>
 	{
@@ -194,8 +153,7 @@ namespace UE4CodeGen_Private
 
 	/** Adds the property for a member of type T. */
 	template <typename T>
-	void AddProperty(
-		UStruct& Struct, const FPropertyParams& Params, std::initializer_list<FMetaDataPairParam> MetaData)
+	void AddProperty(UStruct& Struct, const FPropertyParams& Params, std::initializer_list<FMetaDataPairParam> MetaData)
 	{
 		FinishProperty(Struct, TMakeProperty<T>::Make(FName(Params.Name), Params), Params, MetaData);
 	}

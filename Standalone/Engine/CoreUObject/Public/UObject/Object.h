@@ -8,12 +8,13 @@
 class UWorld;
 
 /**
- * The base of all reflected objects. Objects are made with NewObject or, in constructors, CreateDefaultSubobject, and are owned
- * by the collector. The outer of an object is what it lies in; the outermost is its package.
+ * The base of all reflected objects. Objects are made with NewObject or, in constructors, CreateDefaultSubobject, and
+ * are owned by the collector. The outer of an object is what it lies in; the outermost is its package.
  */
 class COREUOBJECT_API UObject
 {
-	DECLARE_CLASS(UObject, UObject, CLASS_Abstract | CLASS_Intrinsic, CASTCLASS_None, TEXT("/Script/CoreUObject"), NO_API)
+	DECLARE_CLASS(
+		UObject, UObject, CLASS_Abstract | CLASS_Intrinsic, CASTCLASS_None, TEXT("/Script/CoreUObject"), NO_API)
 
 public:
 	UObject();
@@ -21,25 +22,13 @@ public:
 	UObject(const UObject&) = delete;
 	UObject& operator=(const UObject&) = delete;
 
-	UClass* GetClass() const
-	{
-		return ClassPrivate;
-	}
-	FName GetFName() const
-	{
-		return NamePrivate;
-	}
+	UClass* GetClass() const { return ClassPrivate; }
+	FName GetFName() const { return NamePrivate; }
 	/** The object's own name, without its outers. */
-	FString GetName() const
-	{
-		return NamePrivate.ToString();
-	}
+	FString GetName() const { return NamePrivate.ToString(); }
 	/** "/Game/Package.Object:Part.Part": where the object lies, up to but not including StopOuter. */
 	FString GetPathName(const UObject* StopOuter = nullptr) const;
-	UObject* GetOuter() const
-	{
-		return OuterPrivate;
-	}
+	UObject* GetOuter() const { return OuterPrivate; }
 	UPackage* GetOutermost() const;
 	/** Whether SomeOuter is among the outers. */
 	bool IsIn(const UObject* SomeOuter) const;
@@ -59,49 +48,29 @@ public:
 		return IsA(T::StaticClass());
 	}
 
-	EObjectFlags GetFlags() const
-	{
-		return ObjectFlags;
-	}
-	bool HasAnyFlags(EObjectFlags FlagsToCheck) const
-	{
-		return (ObjectFlags & FlagsToCheck) != 0;
-	}
-	void SetFlags(EObjectFlags NewFlags)
-	{
-		ObjectFlags = ObjectFlags | NewFlags;
-	}
+	EObjectFlags GetFlags() const { return ObjectFlags; }
+	bool HasAnyFlags(EObjectFlags FlagsToCheck) const { return (ObjectFlags & FlagsToCheck) != 0; }
+	void SetFlags(EObjectFlags NewFlags) { ObjectFlags = ObjectFlags | NewFlags; }
 	void ClearFlags(EObjectFlags FlagsToClear)
 	{
 		ObjectFlags = static_cast<EObjectFlags>(ObjectFlags & ~static_cast<uint32>(FlagsToClear));
 	}
-	/** Whether this is a class default object or a part of one. With one of CheckType's flags only that kind counts. */
+	/** Whether this is a class default object or a part of one. TemplateTypes tells which of the two count. */
 	bool IsTemplate(EObjectFlags TemplateTypes = RF_ArchetypeObject | RF_ClassDefaultObject) const;
 
 	/** Kept by the collector until RemoveFromRoot. */
-	void AddToRoot()
-	{
-		bRootSet = true;
-	}
-	void RemoveFromRoot()
-	{
-		bRootSet = false;
-	}
-	bool IsRooted() const
-	{
-		return bRootSet;
-	}
-	/** Destroyed as far as anyone is concerned: weak pointers are empty, and the next collection clears all references. */
-	bool IsPendingKill() const
-	{
-		return bPendingKill;
-	}
+	void AddToRoot() { bRootSet = true; }
+	void RemoveFromRoot() { bRootSet = false; }
+	bool IsRooted() const { return bRootSet; }
+	/** Destroyed as far as anyone is concerned: weak pointers are empty, and the next collection clears all references.
+	 */
+	bool IsPendingKill() const { return bPendingKill; }
 	/** Fatal for an object of the root set. */
 	void MarkPendingKill();
 
 	/**
-	 * The object that this one began as: the part of the same name in the outer's archetype, else the class default object; for a
-	 * class default object that of the super class.
+	 * The object that this one began as: the part of the same name in the outer's archetype, else the class default
+	 * object; for a class default object that of the super class.
 	 */
 	UObject* GetArchetype() const;
 
@@ -121,8 +90,8 @@ public:
 	static void AddReferencedObjects(UObject*, FReferenceCollector&) {}
 
 	/**
-	 * Makes a part of the object that is being constructed. Of an instance, the part's archetype is the part of the same name of
-	 * the class default object. Fatal outside of constructors.
+	 * Makes a part of the object that is being constructed. Of an instance, the part's archetype is the part of the
+	 * same name of the class default object. Fatal outside of constructors.
 	 */
 	UObject* CreateDefaultSubobject(FName SubobjectFName, UClass* ClassToCreate, bool bIsTransient = false);
 	template <class TReturnType>
@@ -138,16 +107,10 @@ public:
 	}
 
 	/** The place in the table of objects; used again by later objects. */
-	uint32 GetUniqueID() const
-	{
-		return static_cast<uint32>(InternalIndex);
-	}
+	uint32 GetUniqueID() const { return static_cast<uint32>(InternalIndex); }
 
 	/** Objects are constructed in memory of the object system only. */
-	void* operator new(SIZE_T, EInternal, void* Memory)
-	{
-		return Memory;
-	}
+	void* operator new(SIZE_T, EInternal, void* Memory) { return Memory; }
 	void operator delete(void*, EInternal, void*) {}
 	/** Never called: the collector frees the memory after the destructor. */
 	void operator delete(void*) {}

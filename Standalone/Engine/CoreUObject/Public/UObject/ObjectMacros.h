@@ -109,7 +109,8 @@ enum EInternal
 #define NO_API
 #endif
 
-// HeaderTool reads these; the compiler sees nothing but the body that the generated header defines for the file and line.
+// HeaderTool reads these; the compiler sees nothing but the body that the generated header defines for the file and
+// line.
 #define UCLASS(...)
 #define USTRUCT(...)
 #define UPROPERTY(...)
@@ -121,7 +122,8 @@ enum EInternal
 
 #define COMPILED_IN_FLAGS(TStaticFlags) ((TStaticFlags) | CLASS_Native)
 
-/** What every class of objects has in common. The generated headers use it, and the few classes that reflection rests on. */
+/** What every class of objects has in common. The generated headers use it, and the few classes that reflection rests
+ * on. */
 #define DECLARE_CLASS(TClass, TSuperClass, TStaticFlags, TStaticCastFlags, TPackage, TRequiredAPI) \
 private: \
 	static TRequiredAPI UClass* GetPrivateStaticClass(); \

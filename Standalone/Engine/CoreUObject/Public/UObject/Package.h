@@ -11,10 +11,7 @@ class COREUOBJECT_API UPackage : public UObject
 public:
 	/** Whether there are changes to save. The transient package never has any. */
 	void SetDirtyFlag(bool bIsDirty);
-	bool IsDirty() const
-	{
-		return bDirty;
-	}
+	bool IsDirty() const { return bDirty; }
 
 private:
 	bool bDirty = false;

@@ -71,12 +71,11 @@ T* NewObject()
 }
 
 /**
- * Finds an object. Outer null: Name is a whole path, "/Game/Package.Object:Part". Outer ANY_PACKAGE: Name is a whole path, or
- * the object's own name in whatever package. Else Name is relative to Outer. Letter case does not matter.
+ * Finds an object. Outer null: Name is a whole path, "/Game/Package.Object:Part". Outer ANY_PACKAGE: Name is a whole
+ * path, or the object's own name in whatever package. Else Name is relative to Outer. Letter case does not matter.
  * @return null unless the object is of the class (of exactly that class, if asked).
  */
-COREUOBJECT_API UObject* StaticFindObject(
-	UClass* Class, UObject* InOuter, const TCHAR* Name, bool ExactClass = false);
+COREUOBJECT_API UObject* StaticFindObject(UClass* Class, UObject* InOuter, const TCHAR* Name, bool ExactClass = false);
 
 template <class T>
 T* FindObject(UObject* Outer, const TCHAR* Name, bool ExactClass = false)
@@ -90,17 +89,16 @@ COREUOBJECT_API UPackage* FindPackage(UObject* InOuter, const TCHAR* PackageName
 /** The package of that name, made if there is none. */
 COREUOBJECT_API UPackage* CreatePackage(const TCHAR* PackageName);
 
-/** A name that no object within Parent has: BaseName (by default the class's name), "_" and a number that was never used. */
+/** A name that no object within Parent has: BaseName (by default the class's name), "_" and a number that was never
+ * used. */
 COREUOBJECT_API FName MakeUniqueObjectName(UObject* Parent, const UClass* Class, FName BaseName = FName());
 
 /**
- * Destroys the objects that cannot be reached from the root set, from objects with one of KeepFlags, from templates, from
- * native holders (FGCObject) and through reflected references. References to objects that are pending kill become null.
+ * Destroys the objects that cannot be reached from the root set, from objects with one of KeepFlags, from templates,
+ * from native holders (FGCObject) and through reflected references. References to objects that are pending kill become
+ * null.
  */
 COREUOBJECT_API void CollectGarbage(EObjectFlags KeepFlags);
-
-/** True while CollectGarbage runs. */
-COREUOBJECT_API bool IsGarbageCollecting();
 
 /** Destroys every object, classes included: the end of the program. The object system could be started again. */
 COREUOBJECT_API void StaticExit();
@@ -139,10 +137,7 @@ protected:
 class COREUOBJECT_API FObjectInitializer
 {
 public:
-	UObject* GetObj() const
-	{
-		return Obj;
-	}
+	UObject* GetObj() const { return Obj; }
 
 private:
 	friend class FObjectConstruction;

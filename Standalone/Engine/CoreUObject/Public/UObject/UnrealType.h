@@ -8,7 +8,8 @@
 #include "UObject/Field.h"
 #include "UObject/Object.h"
 
-/** @file Reflected properties: what details panels, undo, save slots, level files and the collector know of an object's members. */
+/** @file Reflected properties: what details panels, undo, save slots, level files and the collector know of an object's
+ * members. */
 
 /** Why a value changed. */
 namespace EPropertyChangeType
@@ -36,18 +37,9 @@ public:
 
 	FProperty(FName InName, EClassCastFlags InCastFlags, SIZE_T Size)
 		: FField(InName, InCastFlags | CASTCLASS_FProperty), ElementSize(static_cast<int32>(Size))
-	{
-	}
+	{}
 
-	bool HasAnyPropertyFlags(uint64 FlagsToCheck) const
-	{
-		return (PropertyFlags & FlagsToCheck) != 0;
-	}
-	/** Bytes from the container to the value. */
-	int32 GetOffset_ForInternal() const
-	{
-		return Offset;
-	}
+	bool HasAnyPropertyFlags(uint64 FlagsToCheck) const { return (PropertyFlags & FlagsToCheck) != 0; }
 	template <typename ValueType>
 	ValueType* ContainerPtrToValuePtr(void* ContainerPtr, int32 ArrayIndex = 0) const
 	{
@@ -59,9 +51,6 @@ public:
 		return ContainerPtrToValuePtr<ValueType>(const_cast<void*>(ContainerPtr), ArrayIndex);
 	}
 
-	/** Default-constructs a value in raw memory. */
-	virtual void InitializeValue(void* Dest) const = 0;
-	virtual void DestroyValue(void* Dest) const = 0;
 	virtual void CopyCompleteValue(void* Dest, const void* Src) const = 0;
 	void CopyCompleteValue_InContainer(void* DestContainer, const void* SrcContainer) const
 	{
@@ -75,10 +64,7 @@ public:
 	}
 
 	/** Whether a value can hold references to objects. */
-	virtual bool ContainsObjectReference() const
-	{
-		return false;
-	}
+	virtual bool ContainsObjectReference() const { return false; }
 	/** Shows the collector the references of a value. */
 	virtual void CollectReferences(void*, FReferenceCollector&, const UObject*) const {}
 
@@ -110,29 +96,11 @@ public:
 
 	explicit TProperty(FName InName) : FProperty(InName, InCastFlag, sizeof(TCppType)) {}
 
-	static const TCppType& GetPropertyValue(const void* A)
-	{
-		return *static_cast<const TCppType*>(A);
-	}
-	static void SetPropertyValue(void* A, const TCppType& Value)
-	{
-		*static_cast<TCppType*>(A) = Value;
-	}
+	static const TCppType& GetPropertyValue(const void* A) { return *static_cast<const TCppType*>(A); }
+	static void SetPropertyValue(void* A, const TCppType& Value) { *static_cast<TCppType*>(A) = Value; }
 	const TCppType& GetPropertyValue_InContainer(const void* A) const
 	{
 		return GetPropertyValue(ContainerPtrToValuePtr<void>(A));
-	}
-	void SetPropertyValue_InContainer(void* A, const TCppType& Value) const
-	{
-		SetPropertyValue(ContainerPtrToValuePtr<void>(A), Value);
-	}
-	virtual void InitializeValue(void* Dest) const override
-	{
-		new (Dest) TCppType();
-	}
-	virtual void DestroyValue(void* Dest) const override
-	{
-		static_cast<TCppType*>(Dest)->~TCppType();
 	}
 	virtual void CopyCompleteValue(void* Dest, const void* Src) const override
 	{
@@ -211,19 +179,11 @@ public:
 	{
 		return GetObjectPropertyValue(ContainerPtrToValuePtr<void>(ContainerAddress));
 	}
-	void SetObjectPropertyValue_InContainer(void* ContainerAddress, UObject* Value) const
-	{
-		SetObjectPropertyValue(ContainerPtrToValuePtr<void>(ContainerAddress), Value);
-	}
-	virtual void InitializeValue(void* Dest) const override;
-	virtual void DestroyValue(void*) const override {}
 	virtual void CopyCompleteValue(void* Dest, const void* Src) const override;
 	virtual bool Identical(const void* A, const void* B, uint32 PortFlags = 0) const override;
-	virtual bool ContainsObjectReference() const override
-	{
-		return true;
-	}
-	virtual void CollectReferences(void* Value, FReferenceCollector& Collector, const UObject* Referencer) const override;
+	virtual bool ContainsObjectReference() const override { return true; }
+	virtual void CollectReferences(
+		void* Value, FReferenceCollector& Collector, const UObject* Referencer) const override;
 
 	/** The class of the pointer's type. */
 	UClass* PropertyClass;
@@ -240,16 +200,12 @@ public:
 
 	FStructProperty(FName InName, UScriptStruct* InStruct);
 
-	virtual void InitializeValue(void* Dest) const override;
-	virtual void DestroyValue(void* Dest) const override;
 	virtual void CopyCompleteValue(void* Dest, const void* Src) const override;
 	virtual bool Identical(const void* A, const void* B, uint32 PortFlags = 0) const override;
 	/** Asked while the structure may still be getting its properties, so the answer is the careful one. */
-	virtual bool ContainsObjectReference() const override
-	{
-		return true;
-	}
-	virtual void CollectReferences(void* Value, FReferenceCollector& Collector, const UObject* Referencer) const override;
+	virtual bool ContainsObjectReference() const override { return true; }
+	virtual void CollectReferences(
+		void* Value, FReferenceCollector& Collector, const UObject* Referencer) const override;
 
 	UScriptStruct* Struct;
 };
@@ -266,16 +222,13 @@ public:
 	/** Owns InInner, which describes the elements. */
 	FArrayProperty(FName InName, FProperty* InInner, SIZE_T Size)
 		: FProperty(InName, CASTCLASS_FArrayProperty, Size), Inner(InInner)
-	{
-	}
+	{}
 	virtual ~FArrayProperty();
 
 	virtual bool Identical(const void* A, const void* B, uint32 PortFlags = 0) const override;
-	virtual bool ContainsObjectReference() const override
-	{
-		return Inner->ContainsObjectReference();
-	}
-	virtual void CollectReferences(void* Value, FReferenceCollector& Collector, const UObject* Referencer) const override;
+	virtual bool ContainsObjectReference() const override { return Inner->ContainsObjectReference(); }
+	virtual void CollectReferences(
+		void* Value, FReferenceCollector& Collector, const UObject* Referencer) const override;
 
 	FProperty* Inner;
 
@@ -286,7 +239,6 @@ private:
 	virtual int32 GetArrayNum(const void* Array) const = 0;
 	virtual void* GetArrayData(void* Array) const = 0;
 	virtual void SetArrayNum(void* Array, int32 Num) const = 0;
-	virtual void RemoveFromArray(void* Array, int32 Index, int32 Count) const = 0;
 };
 
 /** Reads and changes a reflected array without knowing the type of its elements. */
@@ -296,61 +248,44 @@ public:
 	/** InArray points at the TArray itself. */
 	FScriptArrayHelper(const FArrayProperty* InProperty, const void* InArray)
 		: Property(InProperty), Array(const_cast<void*>(InArray))
-	{
-	}
+	{}
 
-	int32 Num() const
-	{
-		return Property->GetArrayNum(Array);
-	}
-	bool IsValidIndex(int32 Index) const
-	{
-		return Index >= 0 && Index < Num();
-	}
-	/** The element at Index; of an empty array the first one's pointer is null. Fatal for any other index out of range. */
+	int32 Num() const { return Property->GetArrayNum(Array); }
+	bool IsValidIndex(int32 Index) const { return Index >= 0 && Index < Num(); }
+	/** The element at Index; of an empty array the first one's pointer is null. Fatal for any other index out of range.
+	 */
 	uint8* GetRawPtr(int32 Index = 0);
 	/** Appends a default-constructed element. @return its index. */
 	int32 AddValue();
-	/** Removes the elements from Index on. */
-	void RemoveValues(int32 Index, int32 Count = 1);
 	void EmptyValues();
 	/** Removes all elements and adds default-constructed ones. */
 	void EmptyAndAddValues(int32 Count);
-	/** Drops the last elements or appends default-constructed ones. */
-	void Resize(int32 Count);
 
 private:
 	const FArrayProperty* Property;
 	void* Array;
 };
 
-/** Walks through the properties of a structure: its own in the order of declaration, then those of its super, and so on. */
+/** Walks through the properties of a structure: its own in the order of declaration, then those of its super, and so
+ * on. */
 template <class FieldType>
 class TFieldIterator
 {
 public:
-	explicit TFieldIterator(const UStruct* InStruct) : Struct(InStruct), Field(InStruct ? InStruct->ChildProperties : nullptr)
+	explicit TFieldIterator(const UStruct* InStruct)
+		: Struct(InStruct), Field(InStruct ? InStruct->ChildProperties : nullptr)
 	{
 		SkipToNext();
 	}
-	explicit operator bool() const
-	{
-		return Field != nullptr;
-	}
+	explicit operator bool() const { return Field != nullptr; }
 	TFieldIterator& operator++()
 	{
 		Field = Field->Next;
 		SkipToNext();
 		return *this;
 	}
-	FieldType* operator*() const
-	{
-		return static_cast<FieldType*>(Field);
-	}
-	FieldType* operator->() const
-	{
-		return **this;
-	}
+	FieldType* operator*() const { return static_cast<FieldType*>(Field); }
+	FieldType* operator->() const { return **this; }
 
 private:
 	void SkipToNext()

@@ -11,34 +11,20 @@ struct COREUOBJECT_API FWeakObjectPtr
 	FWeakObjectPtr() = default;
 	FWeakObjectPtr(const UObject* Object);
 
-	UObject* Get() const
-	{
-		return Get(false);
-	}
+	UObject* Get() const { return Get(false); }
 	/** The object, even if it is pending kill when asked so; null once the collector destroys it. */
 	UObject* Get(bool bEvenIfPendingKill) const;
-	bool IsValid() const
-	{
-		return Get() != nullptr;
-	}
+	bool IsValid() const { return Get() != nullptr; }
 	/** True if there was an object and now is none. */
-	bool IsStale() const
-	{
-		return SerialNumber != 0 && !IsValid();
-	}
-	void Reset()
-	{
-		*this = FWeakObjectPtr();
-	}
+	bool IsStale() const { return SerialNumber != 0 && !IsValid(); }
+	void Reset() { *this = FWeakObjectPtr(); }
 	/** The same object, or both without one. */
 	bool operator==(const FWeakObjectPtr& Other) const
 	{
-		return (ObjectIndex == Other.ObjectIndex && SerialNumber == Other.SerialNumber) || (!IsValid() && !Other.IsValid());
+		return (ObjectIndex == Other.ObjectIndex && SerialNumber == Other.SerialNumber) ||
+			(!IsValid() && !Other.IsValid());
 	}
-	bool operator!=(const FWeakObjectPtr& Other) const
-	{
-		return !(*this == Other);
-	}
+	bool operator!=(const FWeakObjectPtr& Other) const { return !(*this == Other); }
 	friend uint32 GetTypeHash(const FWeakObjectPtr& Pointer)
 	{
 		return static_cast<uint32>(Pointer.ObjectIndex) ^ static_cast<uint32>(Pointer.SerialNumber);

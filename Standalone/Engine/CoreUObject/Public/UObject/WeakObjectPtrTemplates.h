@@ -14,32 +14,18 @@ struct TWeakObjectPtr : private FWeakObjectPtr
 	TWeakObjectPtr(std::nullptr_t) {}
 	template <class U, class = typename std::enable_if<std::is_convertible<U*, const T*>::value>::type>
 	TWeakObjectPtr(U* Object) : FWeakObjectPtr(Object)
-	{
-	}
+	{}
 	template <class U, class = typename std::enable_if<std::is_convertible<U*, T*>::value>::type>
 	TWeakObjectPtr(const TWeakObjectPtr<U>& Other) : FWeakObjectPtr(Other)
-	{
-	}
+	{}
 
-	T* Get() const
-	{
-		return static_cast<T*>(FWeakObjectPtr::Get());
-	}
-	T* Get(bool bEvenIfPendingKill) const
-	{
-		return static_cast<T*>(FWeakObjectPtr::Get(bEvenIfPendingKill));
-	}
+	T* Get() const { return static_cast<T*>(FWeakObjectPtr::Get()); }
+	T* Get(bool bEvenIfPendingKill) const { return static_cast<T*>(FWeakObjectPtr::Get(bEvenIfPendingKill)); }
 	using FWeakObjectPtr::IsStale;
 	using FWeakObjectPtr::IsValid;
 	using FWeakObjectPtr::Reset;
-	T* operator->() const
-	{
-		return Get();
-	}
-	T& operator*() const
-	{
-		return *Get();
-	}
+	T* operator->() const { return Get(); }
+	T& operator*() const { return *Get(); }
 	template <class U>
 	bool operator==(const TWeakObjectPtr<U>& Other) const
 	{

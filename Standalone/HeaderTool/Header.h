@@ -1,26 +1,10 @@
 // Copyright Corvane. MIT License.
 #pragma once
 
+#include "Specifiers.h"
+
 #include <string>
 #include <vector>
-
-/** A key and its value as it stands in a string literal. */
-struct FMetaData
-{
-	std::string Key;
-	std::string Value;
-};
-
-/** What the specifiers of a macro say. */
-struct FSpecifiers
-{
-	/** Names of engine flags. */
-	std::vector<std::string> Flags;
-	std::vector<FMetaData> MetaData;
-
-	bool HasMetaData(const std::string& Key) const;
-	bool HasFlag(const std::string& Flag) const;
-};
 
 struct FReflectedProperty
 {
