@@ -24,6 +24,7 @@ public class QuillonEditor : ModuleRules
 			"AssetTools",
 			"AssetRegistry",
 			"Quillon",
+			"USpout",
 		});
 	}
 }

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "StandaloneEditor.h"
+#include "TextDescription.h"
 
 #include "Framework/Application/SlateApplication.h"
 #include "Framework/Docking/TabManager.h"
@@ -52,14 +53,8 @@ protected:
 		const bool bStarted = Editor.Start(FStandaloneEditorOptions(), Error);
 		EXPECT_TRUE(bStarted) << Error;
 	}
-	static bool Load()
-	{
-		return FModuleManager::Get().LoadModule("QuillonEditor") != nullptr;
-	}
-	static bool Unload()
-	{
-		return FModuleManager::Get().UnloadModule("QuillonEditor");
-	}
+	static bool Load() { return FModuleManager::Get().LoadModule("QuillonEditor") != nullptr; }
+	static bool Unload() { return FModuleManager::Get().UnloadModule("QuillonEditor"); }
 
 	FStandaloneEditor Editor;
 };
@@ -105,7 +100,7 @@ TEST_F(FModuleLifecycle, ShutsDownQuietlyWhenNobodyHoldsTheStyle)
 	int32 Reports = 0;
 	const FDelegateHandle Handle =
 		FEnsureReports::OnReported().AddLambda([&Reports](const FEnsureReport&) { ++Reports; });
-	Unload();
+	EXPECT_TRUE(Unload());
 	FEnsureReports::OnReported().Remove(Handle);
 	EXPECT_EQ(Reports, 0);
 }
@@ -115,16 +110,28 @@ TEST_F(FModuleLifecycle, OffersTheTabWithItsTextsIconAndWithoutAMenuEntry)
 	ASSERT_TRUE(FGlobalTabmanager::Get()->TryInvokeTab(FTabId(TabName)).IsValid());
 	const TSharedRef<FTabSpawnerEntry> Entry = FGlobalTabmanager::Get()->GetOpenTabs()[0].Spawner;
 	const FText Name = Entry->GetDisplayName();
-	EXPECT_EQ(FTextInspector::GetNamespace(Name).GetValue(), FString("FQuillonEditorModule"));
-	EXPECT_EQ(FTextInspector::GetKey(Name).GetValue(), FString("CineStreamWizardTitle"));
-	EXPECT_TRUE(Name.ToString().Equals("Cine Stream Wizard"));
+	EXPECT_EQ(DescribeText(Name), "FQuillonEditorModule,CineStreamWizardTitle,Cine Stream Wizard");
 	const FText Tooltip = Entry->GetTooltipText();
-	EXPECT_EQ(FTextInspector::GetNamespace(Tooltip).GetValue(), FString("FQuillonEditorModule"));
-	EXPECT_EQ(FTextInspector::GetKey(Tooltip).GetValue(), FString("CineStreamWizardTooltipText"));
-	EXPECT_TRUE(Tooltip.ToString().Equals("Open the Cine Stream Wizard tab."));
+	EXPECT_EQ(
+		DescribeText(Tooltip), "FQuillonEditorModule,CineStreamWizardTooltipText,Open the Cine Stream Wizard tab.");
 	EXPECT_FALSE(Entry->ShouldAutoGenerateMenuEntry());
-	EXPECT_TRUE(Entry->GetIcon().GetStyleSetName() == FName("QuillonEditorStyle"));
-	EXPECT_TRUE(Entry->GetIcon().GetStyleName() == FName("ZAVQuillon.WizardIcon_16x"));
+	EXPECT_TRUE(Entry->GetIcon().GetStyleSetName().ToString().Equals("QuillonEditorStyle"));
+	EXPECT_TRUE(Entry->GetIcon().GetStyleName().ToString().Equals("ZAVQuillon.WizardIcon_16x"));
+}
+
+TEST_F(FModuleLifecycle, BringsTheOpenTabForwardInsteadOfOpeningASecondOne)
+{
+	const TSharedRef<FGlobalTabmanager>& Tabs = FGlobalTabmanager::Get();
+	Tabs->RegisterNomadTabSpawner("Other",
+		FOnSpawnTab::CreateLambda([](const FSpawnTabArgs&) { return SNew(SDockTab).TabRole(ETabRole::NomadTab); }));
+	const TSharedPtr<SDockTab> Wizard = Tabs->TryInvokeTab(FTabId(TabName));
+	Tabs->TryInvokeTab(FTabId("Other"));
+	ASSERT_FALSE(Wizard->IsForeground());
+	EXPECT_TRUE(Tabs->TryInvokeTab(FTabId(TabName)) == Wizard);
+	EXPECT_TRUE(Wizard->IsForeground());
+	EXPECT_EQ(Tabs->GetOpenTabs().Num(), 2);
+	Tabs->FindExistingLiveTab(FTabId("Other"))->RequestCloseTab();
+	Tabs->UnregisterNomadTabSpawner("Other");
 }
 
 TEST(FModuleWithoutSlate, RegistersItsStyleWithoutReloadingTextures)

@@ -21,6 +21,8 @@ protected:
 			[this](const TArray<UObject*>& Objects, bool bFocus)
 			{
 				SyncedObjects = Objects;
+				bSelectedBeforeSync =
+					GEditor->GetSelectedActors()->Num() == 1 && GEditor->GetSelectedActors()->IsSelected(Objects[0]);
 				Events.push_back(bFocus ? "sync+focus" : "sync");
 			});
 		URecordingEditor::Get().SelectionCalls.Reset();
@@ -33,6 +35,7 @@ protected:
 	}
 	std::vector<std::string> Events;
 	TArray<UObject*> SyncedObjects;
+	bool bSelectedBeforeSync = false;
 	FDelegateHandle LevelDirtied;
 	FDelegateHandle Redrawn;
 	FDelegateHandle Synced;
@@ -56,6 +59,7 @@ TEST_F(FWizardEffects, SyncTheBrowserToTheCameraAloneWithoutBringingItForward)
 {
 	Create("Main");
 	ASSERT_EQ(SyncedObjects.Num(), 1);
+	EXPECT_TRUE(bSelectedBeforeSync);
 	EXPECT_TRUE(SyncedObjects[0] == GetActors(World(0), TEXT("ZAVCineCamCapture"))[0]);
 }
 

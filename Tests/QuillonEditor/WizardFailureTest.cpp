@@ -5,7 +5,9 @@
 
 #include "Editor.h"
 #include "LevelEditorViewport.h"
+#include "NullViewport.h"
 #include "Modules/ModuleManager.h"
+#include "Widgets/Input/SEditableTextBox.h"
 #include "Widgets/Text/STextBlock.h"
 
 /** An editor whose asset tools make nothing. */
@@ -48,6 +50,7 @@ TEST_F(FWizardWithoutAssets, ReturnsFromAFailureWithAnEmptyNameAndAFullBox)
 	Create("Main");
 	Click("Try Again");
 	ASSERT_TRUE(HasButton("Create Instant Cinestream Output"));
+	EXPECT_TRUE(FWidgetFinder(Wizard.ToSharedRef()).GetEditBoxes()[0]->GetText().ToString().Equals("Main"));
 	// Create at once: nothing commits, so the name is still empty while the box shows it.
 	Click("Create Instant Cinestream Output");
 	EXPECT_EQ(GetWarning(), "! Stream Name cannot be empty.");
@@ -62,16 +65,47 @@ TEST_F(FWizardWithoutAssets, DoesNotLookForAManagerAfterAFailure)
 }
 
 class FWizardWithoutViewport : public FWizardFixture
-{
-};
+{};
 
-TEST_F(FWizardWithoutViewport, ShowsTheFailurePageWhenNoClientShowsTheActiveViewport)
+TEST_F(FWizardWithoutViewport, ShowsTheFailurePageWhenThereIsNoActiveViewport)
 {
 	GEditor->SetActiveViewport(nullptr);
 	EXPECT_EQ(Create("Main"), "ERROR: Failed to create Cinestream 'Main'!");
 	EXPECT_TRUE(HasButton("Try Again"));
 	EXPECT_TRUE(GetAssetPackages().empty());
-	EXPECT_EQ(GetActors(World(0), TEXT("ZAVSpoutSenderManager")).Num(), 0);
+	ExpectNoActors();
+}
+
+TEST_F(FWizardWithoutViewport, ShowsTheFailurePageWhenNoClientShowsTheActiveViewport)
+{
+	FNullViewport Stranger;
+	GEditor->SetActiveViewport(&Stranger);
+	EXPECT_EQ(Create("Main"), "ERROR: Failed to create Cinestream 'Main'!");
+	EXPECT_TRUE(GetAssetPackages().empty());
+	ExpectNoActors();
+	GEditor->SetActiveViewport(nullptr);
+}
+
+TEST_F(FWizardWithoutViewport, TakesTheFirstOfTwoClientsThatShareTheActiveViewport)
+{
+	FEditorViewportClient& Second = Editor.AddClient(*World(1));
+	FViewport* const Own = Second.Viewport;
+	Second.Viewport = Editor.Get().GetLevelClient().Viewport;
+	Create("Main");
+	EXPECT_EQ(GetActors(World(0), TEXT("ZAVCineCamCapture")).Num(), 1);
+	Second.Viewport = Own;
+}
+
+TEST_F(FWizardWithoutViewport, IsFatalToCreateInWithoutAssetTools)
+{
+	OpenWizard();
+	Pages->EnterName("Main");
+	EXPECT_EXIT(
+		{
+			const FAssetToolsFault Fault(FAssetToolsFault::EKind::MissingModule);
+			Pages->PressButton();
+		},
+		::testing::ExitedWithCode(3), "AssetTools");
 }
 
 TEST_F(FWizardWithoutViewport, IsFatalToTypeInWithoutAnyViewportClient)

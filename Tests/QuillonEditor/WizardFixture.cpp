@@ -8,6 +8,7 @@
 #include "Kismet/GameplayStatics.h"
 #include "UObject/UnrealType.h"
 #include "Widgets/Input/SButton.h"
+#include "Widgets/Input/SEditableTextBox.h"
 
 namespace
 {
@@ -18,8 +19,7 @@ namespace
 			: Property(CastField<FArrayProperty>(Manager->GetClass()->FindPropertyByName(TEXT("SpoutSenders")))),
 			  Helper(Property, Property->ContainerPtrToValuePtr<void>(Manager)),
 			  Entry(CastField<FStructProperty>(Property->Inner)->Struct)
-		{
-		}
+		{}
 		FString& GetString(int32 Index, const TCHAR* Field)
 		{
 			return *Entry->FindPropertyByName(Field)->ContainerPtrToValuePtr<FString>(Helper.GetRawPtr(Index));
@@ -46,6 +46,14 @@ std::string FWizardFixture::Create(const FString& Name)
 	EXPECT_TRUE(Pages->EnterName(Name));
 	EXPECT_TRUE(Pages->PressButton());
 	return Pages->GetMessage();
+}
+
+void FWizardFixture::PasteName(const FString& Name)
+{
+	const TSharedRef<SEditableTextBox> Box = FWidgetFinder(Wizard.ToSharedRef()).GetEditBoxes()[0];
+	ASSERT_TRUE(FUserInput::Focus(Box));
+	Box->SelectAllText();
+	FUserInput::Paste(Name);
 }
 
 void FWizardFixture::Click(const char* Caption)
@@ -83,8 +91,8 @@ std::vector<std::string> FWizardFixture::GetSenders(AActor* Manager)
 	std::vector<std::string> Result;
 	for (int32 Index = 0; Index < Senders.Helper.Num(); ++Index)
 	{
-		const FString Both =
-			Senders.GetString(Index, TEXT("SpoutSenderName")) + TEXT("|") + Senders.GetString(Index, TEXT("StandaloneSenderName"));
+		const FString Both = Senders.GetString(Index, TEXT("SpoutSenderName")) + TEXT("|") +
+			Senders.GetString(Index, TEXT("StandaloneSenderName"));
 		Result.push_back(TCHAR_TO_UTF8(Both));
 	}
 	return Result;

@@ -14,8 +14,8 @@
 #include "WizardPages.h"
 
 /**
- * A fresh editor with the plugin loaded and the wizard open, for what a real editor cannot stage. The plugin is not linked: its
- * actors and entries are reached by reflection.
+ * A fresh editor with the plugin loaded and the wizard open, for what a real editor cannot stage. The plugin is not
+ * linked: its actors and entries are reached by reflection.
  */
 class FWizardFixture : public ::testing::Test
 {
@@ -23,6 +23,8 @@ protected:
 	void OpenWizard();
 	/** Opens the wizard if need be, types the name, clicks create. @return what the page says then. */
 	std::string Create(const FString& Name);
+	/** Pastes the name over what stands in the box of the open wizard. */
+	void PasteName(const FString& Name);
 	/** Clicks the shown button with this caption. */
 	void Click(const char* Caption);
 	bool HasButton(const char* Caption) const;
@@ -40,10 +42,7 @@ protected:
 	/** The packages of the registered assets, in order. */
 	static std::vector<std::string> GetAssetPackages();
 
-	UWorld* World(int32 Index) const
-	{
-		return &Editor.GetWorld(Index);
-	}
+	UWorld* World(int32 Index) const { return &Editor.GetWorld(Index); }
 
 	FTestEditor Editor;
 	TSharedPtr<SWidget> Wizard;

@@ -1,8 +1,12 @@
 // Copyright Corvane. MIT License.
 #include "WizardFixture.h"
 
-// Hostile and unusual stream names. The entry's names are the typed name letter for letter; the asset's follows the rules for
-// asset names.
+#include "UserInput.h"
+
+#include "Widgets/Input/SEditableTextBox.h"
+
+// Hostile and unusual stream names. The entry's names are the typed name letter for letter; the asset's follows the
+// rules for asset names.
 
 namespace
 {
@@ -110,19 +114,22 @@ TEST_F(FWizardNames, WrittenFromRightToLeftAreTakenLiterally)
 
 TEST_F(FWizardNames, WithALoneSurrogateKeepItInTheEntry)
 {
+	// Keyboards make no such text; the clipboard may hold it. As UTF-8 all of it would look alike, so the check of the
+	// name is what tells the units.
 	const TCHAR Units[] = {TEXT('a'), 0xD800, TEXT('b'), 0};
-	const FString Name(Units);
-	Create(Name);
-	AActor* Manager = GetActors(World(0), TEXT("ZAVSpoutSenderManager"))[0];
-	// In UTF-8 the surrogate would be replaced: only the check of the name sees the units themselves.
-	EXPECT_EQ(GetSenders(Manager).size(), 1u);
 	OpenWizard();
-	Click("Create Another Cinestream Output");
-	Pages->EnterName(Name);
-	EXPECT_EQ(GetWarning(), "! Stream Name already defined, please use a differnt name.");
-	const TCHAR Other[] = {TEXT('a'), 0xD801, TEXT('b'), 0};
-	Pages->EnterName(FString(Other));
+	PasteName(Units);
 	EXPECT_EQ(GetWarning(), "");
+	Pages->PressButton();
+	ASSERT_TRUE(HasButton("Create Another Cinestream Output"));
+	Click("Create Another Cinestream Output");
+	const TCHAR Other[] = {TEXT('a'), 0xD801, TEXT('b'), 0};
+	PasteName(Other);
+	EXPECT_EQ(GetWarning(), "");
+	PasteName(Units);
+	EXPECT_EQ(GetWarning(), "! Stream Name already defined, please use a differnt name.");
+	PasteName(FString(Units) + TEXT("_Standalone"));
+	EXPECT_EQ(GetWarning(), "! Stream Name already defined, please use a differnt name.");
 }
 
 TEST_F(FWizardNames, WithASlashGiveTheAssetTheirLastPart)
@@ -183,4 +190,17 @@ TEST_F(FWizardNames, OfNothingAreRefusedAsEmpty)
 	OpenWizard();
 	Pages->PressButton();
 	EXPECT_EQ(Pages->GetMessage(), "! Stream Name cannot be empty.");
+}
+
+TEST_F(FWizardNames, UsedTwiceRepeatInTheEntriesWhileTheAssetGetsANumber)
+{
+	ExpectSetup("Main", "/Game/CineStream/Main");
+	Click("Create Another Cinestream Output");
+	// The box still holds the name; committing it again does not check it again.
+	ASSERT_TRUE(FUserInput::Focus(FWidgetFinder(Wizard.ToSharedRef()).GetEditBoxes()[0]));
+	Pages->PressButton();
+	EXPECT_EQ(Pages->GetMessage(), "Cinestream 'Main' created!");
+	EXPECT_EQ(GetSenders(GetActors(World(0), TEXT("ZAVSpoutSenderManager"))[0]),
+		(std::vector<std::string>{"Main|Main_Standalone", "Main|Main_Standalone"}));
+	EXPECT_EQ(GetAssetPackages(), (std::vector<std::string>{"/Game/CineStream/Main", "/Game/CineStream/Main1"}));
 }

@@ -1,15 +1,19 @@
 // Copyright Corvane. MIT License.
+#include <cstdlib>
 #include <gtest/gtest.h>
 
 #include "StandaloneEditor.h"
 
+#include "Framework/Docking/TabManager.h"
 #include "Interfaces/IPluginManager.h"
+#include "QuillonEditor.h"
 #include "QuillonEditorStyle.h"
 #include "Standalone/EnsureReports.h"
 #include "Styling/SlateStyleRegistry.h"
 
-// What happens when somebody else still shares the style set while it is shut down. Nothing hands the set out, so nobody can be
-// brought to share it from outside: this program has the class's own objects linked in and reaches its private member.
+// What happens when somebody else still shares the style set while it is shut down. Nothing hands the set out, so
+// nobody can be brought to share it from outside: this program has the class's own objects linked in and reaches its
+// private member.
 
 namespace
 {
@@ -23,10 +27,7 @@ namespace
 	template <typename TagType, typename TagType::FPointer Member>
 	struct TMemberAccess
 	{
-		friend typename TagType::FPointer GetMember(TagType)
-		{
-			return Member;
-		}
+		friend typename TagType::FPointer GetMember(TagType) { return Member; }
 	};
 	template struct TMemberAccess<FStyleInstance, &FQuillonEditorStyle::StyleInstance>;
 }
@@ -51,10 +52,7 @@ protected:
 				LastReport = Report;
 			});
 	}
-	~FSharedStyle() override
-	{
-		FEnsureReports::OnReported().Remove(Handle);
-	}
+	~FSharedStyle() override { FEnsureReports::OnReported().Remove(Handle); }
 
 	FStandaloneEditor Editor;
 	FDelegateHandle Handle;
@@ -62,13 +60,34 @@ protected:
 	FEnsureReport LastReport;
 };
 
+/** In a process of its own: a call site reports once. */
+typedef FSharedStyle FModuleShutDownDeathTest;
+
+TEST_F(FModuleShutDownDeathTest, UnregistersTheTabBeforeItReleasesTheStyle)
+{
+	FQuillonEditorStyle::Shutdown();
+	EXPECT_EXIT(
+		{
+			FQuillonEditorModule Module;
+			Module.StartupModule();
+			const TSharedPtr<FSlateStyleSet> Shared = *GetMember(FStyleInstance());
+			int Status = 1;
+			FEnsureReports::OnReported().AddLambda([&Status](const FEnsureReport&)
+				{ Status = FGlobalTabmanager::Get()->HasTabSpawner("CineStreamWizard") ? 2 : 0; });
+			Module.ShutdownModule();
+			std::_Exit(Status);
+		},
+		::testing::ExitedWithCode(0), "StyleInstance.IsUnique\\(\\)");
+}
+
 TEST_F(FSharedStyle, IsReportedAtShutDownWithTheExpressionAndTheFileAndReleasedAnyway)
 {
 	const TSharedPtr<FSlateStyleSet> Shared = *GetMember(FStyleInstance());
 	FQuillonEditorStyle::Shutdown();
 	ASSERT_EQ(Reports, 1);
 	EXPECT_TRUE(LastReport.Expression.Equals(TEXT("StyleInstance.IsUnique()"))) << TCHAR_TO_UTF8(LastReport.Expression);
-	EXPECT_TRUE(LastReport.File.StartsWith(TEXT("Source/QuillonEditor/Private/QuillonEditorStyle"), ESearchCase::CaseSensitive))
+	EXPECT_TRUE(
+		LastReport.File.StartsWith(TEXT("Source/QuillonEditor/Private/QuillonEditorStyle"), ESearchCase::CaseSensitive))
 		<< TCHAR_TO_UTF8(LastReport.File);
 	EXPECT_EQ(FSlateStyleRegistry::FindSlateStyle("QuillonEditorStyle"), nullptr);
 	EXPECT_TRUE(Shared.IsUnique());

@@ -13,8 +13,8 @@ struct QUILLON_API FZAVSpoutSenderInterface
 {
 	GENERATED_BODY()
 
-	// Constructors and destructor are exported functions: other modules link against them instead of making their own, so that
-	// fields can be added without building those again.
+	// Constructors, assignment and destructor are exported functions: other modules link against them instead of making
+	// their own, so that fields can be added without building those again.
 	FZAVSpoutSenderInterface();
 	FZAVSpoutSenderInterface(const FZAVSpoutSenderInterface& Other);
 	FZAVSpoutSenderInterface& operator=(const FZAVSpoutSenderInterface& Other);

@@ -7,8 +7,7 @@
 #include "QuillonEditorStyle.h"
 #include "QuillonEditorWizardTab.h"
 
-// The order of both lists is part of the module's contract: what is registered first may be used by what follows, and shut-down
-// is not start-up reversed.
+// The order of both lists is part of the module's contract: what is registered first may be used by what follows.
 
 void FQuillonEditorModule::StartupModule()
 {

@@ -6,8 +6,8 @@
 #include "Styling/SlateStyle.h"
 
 /**
- * The module's style set: the pictures of its button, tab and notification, and the icons and thumbnails of the plugin's actor
- * classes. Registered from start-up to shut-down of the module; game thread only.
+ * The module's style set: the pictures of its button, tab and notification, and the icons and thumbnails of the
+ * plugin's actor classes. Registered from start-up to shut-down of the module; game thread only.
  */
 class FQuillonEditorStyle
 {
@@ -32,7 +32,8 @@ private:
 
 	static TSharedPtr<FSlateStyleSet> StyleInstance;
 
-	// Image sizes in slate units. The engine's toolbars have a small form at 20 x 20: the size is kept for it, no brush uses it yet.
+	// Image sizes in slate units. The engine's toolbars have a small form at 20 x 20: the size is kept for it, no brush
+	// uses it yet.
 	static const FVector2D Icon16x16;
 	static const FVector2D Icon20x20;
 	static const FVector2D Icon40x40;

@@ -6,6 +6,7 @@
 #include "Engine/World.h"
 #include "Kismet/GameplayStatics.h"
 #include "Styling/CoreStyle.h"
+#include "Templates/Casts.h"
 #include "Widgets/Images/SImage.h"
 #include "Widgets/Input/SButton.h"
 #include "Widgets/Input/SEditableTextBox.h"
@@ -28,22 +29,33 @@ namespace
 	/** Width of the wizard's column, in slate units. */
 	constexpr float ColumnWidth = 300.0f;
 
+	bool HasSenderOfName(const AZAVSpoutSenderManager& Manager, const FString& Name)
+	{
+		for (const FZAVSpoutSenderInterface& Sender : Manager.SpoutSenders)
+		{
+			// FString's own == ignores case, while Spout tells Cam from cam.
+			if (Name.Equals(Sender.SpoutSenderName, ESearchCase::CaseSensitive) ||
+				Name.Equals(Sender.StandaloneSenderName, ESearchCase::CaseSensitive))
+			{
+				return true;
+			}
+		}
+		return false;
+	}
+
 	/** Whether an entry of any sender manager of the editor's world has this name. Names are compared exactly. */
 	bool IsStreamNameTaken(const FString& Name)
 	{
 		UWorld* World = GEditor->GetAllViewportClients()[0]->GetWorld();
 		TArray<AActor*> Managers;
 		UGameplayStatics::GetAllActorsOfClass(World, AZAVSpoutSenderManager::StaticClass(), Managers);
-		for (const AActor* Manager : Managers)
+		for (AActor* Actor : Managers)
 		{
-			for (const FZAVSpoutSenderInterface& Sender : static_cast<const AZAVSpoutSenderManager*>(Manager)->SpoutSenders)
+			// An actor that is no sender manager after all counts as absent.
+			const AZAVSpoutSenderManager* Manager = Cast<AZAVSpoutSenderManager>(Actor);
+			if (Manager && HasSenderOfName(*Manager, Name))
 			{
-				// FString's own == ignores case, while Spout tells Cam from cam.
-				if (Name.Equals(Sender.SpoutSenderName, ESearchCase::CaseSensitive)
-					|| Name.Equals(Sender.StandaloneSenderName, ESearchCase::CaseSensitive))
-				{
-					return true;
-				}
+				return true;
 			}
 		}
 		return false;

@@ -25,7 +25,7 @@
 
 namespace
 {
-	/** Where render targets go, with the slash that the asset tools expect. */
+	/** Where render targets go; ends in a slash, as the stream name follows directly. */
 	const TCHAR* const RenderTargetPath = TEXT("/Game/CineStream/");
 
 	/** The client that shows the active viewport, or null. */
@@ -48,7 +48,8 @@ namespace
 		IAssetTools& AssetTools = FModuleManager::LoadModuleChecked<FAssetToolsModule>("AssetTools").Get();
 		FString UniquePackageName;
 		FString UniqueAssetName;
-		AssetTools.CreateUniqueAssetName(FString(RenderTargetPath) + StreamName, FString(), UniquePackageName, UniqueAssetName);
+		AssetTools.CreateUniqueAssetName(
+			FString(RenderTargetPath) + StreamName, FString(), UniquePackageName, UniqueAssetName);
 		UTextureRenderTarget2D* RenderTarget = Cast<UTextureRenderTarget2D>(AssetTools.CreateAsset(
 			UniqueAssetName, RenderTargetPath, UTextureRenderTarget2D::StaticClass(), nullptr, NAME_None));
 		if (RenderTarget)
@@ -61,7 +62,7 @@ namespace
 		return RenderTarget;
 	}
 
-	/** Makes the actor the only selection and shows it in the editor's browsers. */
+	/** Makes the actor the only selection and asks the content browser to follow, without bringing it forward. */
 	void SelectOnly(AActor* Actor)
 	{
 		GEditor->SelectNone(true, true, true);
@@ -93,7 +94,8 @@ FReply SCineStreamWizard::OnCreateButtonClicked()
 	}
 	else
 	{
-		DoneTextBlock->SetText(FText::Format(LOCTEXT("DoneText", "ERROR: Failed to create Cinestream '{0}'!"), StreamName));
+		DoneTextBlock->SetText(
+			FText::Format(LOCTEXT("DoneText", "ERROR: Failed to create Cinestream '{0}'!"), StreamName));
 		DoneTextBlock->SetColorAndOpacity(FSlateColor(FLinearColor::Red));
 		DoneButtonTextBlock->SetText(LOCTEXT("DoneButtonText", "Try Again"));
 	}
@@ -138,8 +140,8 @@ AZAVCineCamCapture* SCineStreamWizard::CreateCameraActor()
 	}
 
 	// The camera belongs to the world that the user looks at; the manager is sought in the first client's.
-	AZAVCineCamCapture* Camera = Cast<AZAVCineCamCapture>(Client->GetWorld()->SpawnActor(
-		AZAVCineCamCapture::StaticClass(), nullptr, nullptr, FActorSpawnParameters()));
+	AZAVCineCamCapture* Camera = Cast<AZAVCineCamCapture>(
+		Client->GetWorld()->SpawnActor(AZAVCineCamCapture::StaticClass(), nullptr, nullptr, FActorSpawnParameters()));
 	Camera->SetActorLocation(Client->GetViewLocation());
 	Camera->SetActorRotation(Client->GetViewRotation());
 	Camera->CaptureComponent->TextureTarget = RenderTarget;

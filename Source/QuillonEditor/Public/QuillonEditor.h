@@ -10,9 +10,9 @@ class SCineStreamWizard;
 class SDockTab;
 
 /**
- * The editor module's single entry point: wires the plugin's tools into the editor when it starts and takes them out when it
- * shuts down. Created by the module manager through the exported factory InitializeModule; each of the two runs once a load, on
- * the game thread.
+ * The editor module's single entry point: wires the plugin's tools into the editor when it starts and takes them out
+ * when it shuts down. Created by the module manager through the exported factory InitializeModule; each of the two runs
+ * once a load, on the game thread.
  */
 class FQuillonEditorModule : public IModuleInterface
 {

@@ -14,12 +14,13 @@ class AZAVSpoutSenderManager;
 class STextBlock;
 
 /**
- * The instant setup wizard. From one stream name it makes a render target asset, a camera that captures into it from where the
- * user looks, and an entry of the level's Spout sender manager that publishes it.
+ * The instant setup wizard. From one stream name it makes a render target asset, a camera that captures into it from
+ * where the user looks, and an entry of the level's Spout sender manager that publishes it.
  *
- * Two pages share one place: the creator page with the name box and the create button, and the done page with the outcome and a
- * button back. Failures are told on the page; only what cannot be in a running editor (no viewport at all, no asset registry) is
- * fatal. Game thread only.
+ * Two pages share one place: the creator page with the name box and the create button, and the done page with the
+ * outcome and a button back. Failures are told on the page. What a running editor always has is taken for granted, and
+ * fatal where it lacks: a viewport client to check names and seek managers with, the asset tools, the asset registry,
+ * and an engine that spawns the plugin's actors. Game thread only.
  */
 class QUILLONEDITOR_API SCineStreamWizard : public SCompoundWidget
 {
@@ -53,7 +54,8 @@ private:
 
 	/** The whole creation. False when no camera could be made; what was made until then stays. */
 	bool CreateSetup();
-	/** The render target and the camera that captures into it; null on failure. */
+	/** The render target and the camera that captures into it; null when no client shows the active viewport or no
+	 * asset is made. */
 	AZAVCineCamCapture* CreateCameraActor();
 	/** The first sender manager of the editor's world, spawned when there is none. */
 	AZAVSpoutSenderManager* FindOrCreateSenderManager();

@@ -6,8 +6,8 @@
 /**
  * Which Spout senders are active on the machine.
  *
- * REFERENCE MODULE: this one does not talk to Spout; the names are those that were set. A product's own module asks Spout at
- * each call.
+ * REFERENCE MODULE: this one does not talk to Spout; the names are those that were set. A product's own module asks
+ * Spout at each call.
  */
 class USPOUT_API ZAVSpoutNames
 {

@@ -7,7 +7,6 @@
 #include "Widgets/Text/STextBlock.h"
 
 #include "WizardUser.h"
-#include "ZAVTelemetry.h"
 
 #if WITH_DEV_AUTOMATION_TESTS
 
@@ -21,132 +20,149 @@ void FCineStreamWizardPagesSpec::Define()
 	BeforeEach([this]() { User = MakeUnique<FWizardUser>(); });
 	AfterEach([this]() { User.Reset(); });
 
-	Describe("A new wizard", [this]()
-	{
-		It("should show the creator page and collapse the done page", [this]()
+	Describe("A new wizard",
+		[this]()
 		{
-			TestTrue("create button shown", User->IsShown(User->GetCreateButton()));
-			TestTrue("name box shown", User->IsShown(User->GetNameBox()));
-			TestFalse("done button shown", User->IsShown(User->GetDoneButton()));
-			TestFalse("done message shown", User->IsShown(User->GetDoneMessage()));
+			It("should show the creator page and collapse the done page",
+				[this]()
+				{
+					TestTrue("create button shown", User->IsShown(User->GetCreateButton()));
+					TestTrue("name box shown", User->IsShown(User->GetNameBox()));
+					TestFalse("done button shown", User->IsShown(User->GetDoneButton()));
+					TestFalse("done message shown", User->IsShown(User->GetDoneMessage()));
+				});
+
+			It("should hide the warning line and keep its place",
+				[this]()
+				{
+					TestTrue("visibility", User->GetWarning()->GetVisibility() == EVisibility::Hidden);
+					TestEqual("initial text", DescribeText(User->GetWarning()->GetText()),
+						FString(TEXT("CineStreamWizard,StreamName_Warning,Placeholder Text")));
+				});
+
+			It("should have an empty name box", [this]() { TestEqual("box", User->GetNameBoxText(), FString()); });
 		});
 
-		It("should hide the warning line and keep its place", [this]()
+	Describe("The done page after a success",
+		[this]()
 		{
-			TestTrue("visibility", User->GetWarning()->GetVisibility() == EVisibility::Hidden);
-			TestEqual("initial text", DescribeText(User->GetWarning()->GetText()),
-				FString(TEXT("CineStreamWizard,StreamName_Warning,Placeholder Text")));
+			BeforeEach([this]() { User->Create(TEXT("Main")); });
+
+			It("should replace the creator page",
+				[this]()
+				{
+					TestFalse("create button shown", User->IsShown(User->GetCreateButton()));
+					TestFalse("name box shown", User->IsShown(User->GetNameBox()));
+					TestTrue("done button shown", User->IsShown(User->GetDoneButton()));
+				});
+
+			It("should leave the header as it is",
+				[this]()
+				{
+					TestTrue("title shown", User->IsShown(User->GetTitle()));
+					TestTrue("description shown", User->IsShown(User->GetDescription()));
+				});
+
+			It("should show the name between single quotes",
+				[this]() {
+					TestEqual("message", User->GetDoneMessage()->GetText().ToString(),
+						FString(TEXT("Cinestream 'Main' created!")));
+				});
+
+			It("should offer to create another output",
+				[this]()
+				{
+					TestEqual("caption", DescribeText(User->GetDoneCaption()->GetText()),
+						FString(TEXT("CineStreamWizard,DoneButtonText,Create Another Cinestream Output")));
+				});
+
+			It("should give way to the creator page when its button is clicked",
+				[this]()
+				{
+					User->ClickDone();
+					TestTrue("creator page", User->IsCreatorPageShown());
+				});
+
+			It("should be shown again by a living wizard in a new tab",
+				[this]()
+				{
+					const TSharedRef<SWidget> Held = User->GetWizard();
+					User->ReopenTab();
+					TestFalse("creator page", User->IsCreatorPageShown());
+					TestEqual("message", User->GetDoneMessage()->GetText().ToString(),
+						FString(TEXT("Cinestream 'Main' created!")));
+				});
+
+			It("should be gone in a new wizard",
+				[this]()
+				{
+					User->ReopenTab();
+					TestTrue("creator page", User->IsCreatorPageShown());
+				});
 		});
 
-		It("should have an empty name box", [this]() { TestEqual("box", User->GetNameBoxText(), FString()); });
-
-		It("should be reported to telemetry, each time anew", [this]()
+	Describe("The way back to the creator page",
+		[this]()
 		{
-			const int32 Before = ZAVTelemetry::GetWizardEditorOpenedCount();
-			User->ReopenTab();
-			TestEqual("after one opening", ZAVTelemetry::GetWizardEditorOpenedCount(), Before + 1);
-			User->ReopenTab();
-			TestEqual("after two openings", ZAVTelemetry::GetWizardEditorOpenedCount(), Before + 2);
+			BeforeEach(
+				[this]()
+				{
+					User->Create(TEXT("Main"));
+					User->ClickDone();
+				});
+
+			It("should leave the old name in the box",
+				[this]() { TestEqual("box", User->GetNameBoxText(), FString(TEXT("Main"))); });
+
+			It("should have emptied the stream name",
+				[this]()
+				{
+					// The focus stays on the button's page, so the box does not commit again before the click.
+					User->ClickCreate();
+					TestTrue("creator page", User->IsCreatorPageShown());
+					TestEqual("warning", User->GetShownWarning(), FString(TEXT("! Stream Name cannot be empty.")));
+				});
+
+			It("should leave the warning line as it was",
+				[this]()
+				{
+					User->ClickCreate();
+					User->Create(TEXT("Second"));
+					User->ClickDone();
+					TestTrue("still hidden", User->GetWarning()->GetVisibility() == EVisibility::Hidden);
+					TestEqual("text of the last warning", User->GetWarning()->GetText().ToString(),
+						FString(TEXT("! Stream Name cannot be empty.")));
+				});
+
+			It("should create under the old name once the box commits it again",
+				[this]()
+				{
+					TestEqual("box", User->GetNameBoxText(), FString(TEXT("Main")));
+					User->FocusNameBox();
+					User->PressEnter();
+					User->ClickCreate();
+					TestFalse("creator page", User->IsCreatorPageShown());
+				});
+
+			It("should stay without a name while the warning shows, whatever the box commits",
+				[this]()
+				{
+					User->ClickCreate();
+					User->FocusNameBox();
+					User->PressEnter();
+					User->ClickCreate();
+					TestTrue("creator page", User->IsCreatorPageShown());
+					TestEqual("warning", User->GetShownWarning(), FString(TEXT("! Stream Name cannot be empty.")));
+				});
+
+			It("should create under a name that is typed anew",
+				[this]()
+				{
+					User->Create(TEXT("Second"));
+					TestEqual("message", User->GetDoneMessage()->GetText().ToString(),
+						FString(TEXT("Cinestream 'Second' created!")));
+				});
 		});
-
-		It("should not be reported when a living wizard is shown again", [this]()
-		{
-			const TSharedRef<SWidget> Held = User->GetWizard();
-			const int32 Before = ZAVTelemetry::GetWizardEditorOpenedCount();
-			User->ReopenTab();
-			TestTrue("same wizard", User->GetWizard() == Held);
-			TestEqual("openings", ZAVTelemetry::GetWizardEditorOpenedCount(), Before);
-		});
-	});
-
-	Describe("The done page after a success", [this]()
-	{
-		BeforeEach([this]() { User->Create(TEXT("Main")); });
-
-		It("should replace the creator page", [this]()
-		{
-			TestFalse("create button shown", User->IsShown(User->GetCreateButton()));
-			TestFalse("name box shown", User->IsShown(User->GetNameBox()));
-			TestTrue("done button shown", User->IsShown(User->GetDoneButton()));
-		});
-
-		It("should leave the header as it is", [this]()
-		{
-			TestTrue("title shown", User->IsShown(User->GetTitle()));
-			TestTrue("description shown", User->IsShown(User->GetDescription()));
-		});
-
-		It("should show the name between single quotes", [this]()
-		{ TestEqual("message", User->GetDoneMessage()->GetText().ToString(), FString(TEXT("Cinestream 'Main' created!"))); });
-
-		It("should show its message in opaque white", [this]()
-		{
-			TestTrue("colour",
-				User->GetDoneMessage()->GetColorAndOpacity().GetSpecifiedColor() == FLinearColor(1.0f, 1.0f, 1.0f, 1.0f));
-		});
-
-		It("should offer to create another output", [this]()
-		{
-			TestEqual("caption", DescribeText(User->GetDoneCaption()->GetText()),
-				FString(TEXT("CineStreamWizard,DoneButtonText,Create Another Cinestream Output")));
-		});
-
-		It("should give way to the creator page when its button is clicked", [this]()
-		{
-			User->ClickDone();
-			TestTrue("creator page", User->IsCreatorPageShown());
-		});
-
-		It("should be shown again by a living wizard in a new tab", [this]()
-		{
-			const TSharedRef<SWidget> Held = User->GetWizard();
-			User->ReopenTab();
-			TestFalse("creator page", User->IsCreatorPageShown());
-			TestEqual("message", User->GetDoneMessage()->GetText().ToString(), FString(TEXT("Cinestream 'Main' created!")));
-		});
-
-		It("should be gone in a new wizard", [this]()
-		{
-			User->ReopenTab();
-			TestTrue("creator page", User->IsCreatorPageShown());
-		});
-	});
-
-	Describe("The way back to the creator page", [this]()
-	{
-		BeforeEach([this]()
-		{
-			User->Create(TEXT("Main"));
-			User->ClickDone();
-		});
-
-		It("should leave the old name in the box", [this]() { TestEqual("box", User->GetNameBoxText(), FString(TEXT("Main"))); });
-
-		It("should have emptied the stream name", [this]()
-		{
-			// The focus stays on the button's page, so the box does not commit again before the click.
-			User->ClickCreate();
-			TestTrue("creator page", User->IsCreatorPageShown());
-			TestEqual("warning", User->GetShownWarning(), FString(TEXT("! Stream Name cannot be empty.")));
-		});
-
-		It("should leave the warning line as it was", [this]()
-		{
-			User->ClickCreate();
-			User->Create(TEXT("Second"));
-			User->ClickDone();
-			TestTrue("still hidden", User->GetWarning()->GetVisibility() == EVisibility::Hidden);
-			TestEqual("text of the last warning", User->GetWarning()->GetText().ToString(),
-				FString(TEXT("! Stream Name cannot be empty.")));
-		});
-
-		It("should create under a name that is typed anew", [this]()
-		{
-			User->Create(TEXT("Second"));
-			TestEqual(
-				"message", User->GetDoneMessage()->GetText().ToString(), FString(TEXT("Cinestream 'Second' created!")));
-		});
-	});
 }
 
 #endif

@@ -1,6 +1,7 @@
 // Copyright Corvane. MIT License.
 #include "WizardUser.h"
 
+#include "Engine/World.h"
 #include "Framework/Application/SlateApplication.h"
 #include "Framework/Docking/TabManager.h"
 #include "Input/Events.h"
@@ -15,9 +16,10 @@
 #include "Widgets/Input/SEditableTextBox.h"
 #include "Widgets/Text/STextBlock.h"
 
-#include "Engine/World.h"
 #include "ZAVCineCamCapture.h"
 #include "ZAVSpoutSenderManager.h"
+
+#if WITH_DEV_AUTOMATION_TESTS
 
 namespace
 {
@@ -118,6 +120,11 @@ void FWizardUser::Type(const FString& Text)
 	}
 }
 
+void FWizardUser::FocusNameBox()
+{
+	FSlateApplication::Get().SetKeyboardFocus(GetNameBox(), EFocusCause::Mouse);
+}
+
 void FWizardUser::PressEnter()
 {
 	PressKey(EKeys::Enter);
@@ -128,12 +135,14 @@ void FWizardUser::Click(const TSharedRef<SWidget>& Widget)
 	FSlateApplication& Slate = FSlateApplication::Get();
 	FWidgetPath Path;
 	Slate.GeneratePathToWidgetUnchecked(Widget, Path);
+	const FVector2D Position = Path.Widgets.Last().Geometry.GetAbsolutePosition();
+	// The events only refer to the sets.
 	TSet<FKey> PressedButtons;
 	PressedButtons.Add(EKeys::LeftMouseButton);
+	const TSet<FKey> NoButtons;
 	const FPointerEvent Press(
-		0, FVector2D(), FVector2D(), PressedButtons, EKeys::LeftMouseButton, 0.0f, FModifierKeysState());
-	const FPointerEvent Release(
-		0, FVector2D(), FVector2D(), TSet<FKey>(), EKeys::LeftMouseButton, 0.0f, FModifierKeysState());
+		0, Position, Position, PressedButtons, EKeys::LeftMouseButton, 0.0f, FModifierKeysState());
+	const FPointerEvent Release(0, Position, Position, NoButtons, EKeys::LeftMouseButton, 0.0f, FModifierKeysState());
 	Slate.RoutePointerDownEvent(Path, Press);
 	Slate.RoutePointerUpEvent(Path, Release);
 }
@@ -284,6 +293,8 @@ FString DescribeText(const FText& Text)
 	const TOptional<FString> Namespace = FTextInspector::GetNamespace(Text);
 	const TOptional<FString> Key = FTextInspector::GetKey(Text);
 	const FString* Source = FTextInspector::GetSourceString(Text);
-	return (Namespace.IsSet() ? Namespace.GetValue() : FString(TEXT("-"))) + TEXT(",")
-		+ (Key.IsSet() ? Key.GetValue() : FString(TEXT("-"))) + TEXT(",") + (Source ? *Source : FString(TEXT("-")));
+	return (Namespace.IsSet() ? Namespace.GetValue() : FString(TEXT("-"))) + TEXT(",") +
+		(Key.IsSet() ? Key.GetValue() : FString(TEXT("-"))) + TEXT(",") + (Source ? *Source : FString(TEXT("-")));
 }
+
+#endif

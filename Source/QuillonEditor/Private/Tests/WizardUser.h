@@ -17,8 +17,8 @@ class UWorld;
 struct FSlateBrush;
 
 /**
- * A user in front of the wizard, on a new and empty level: types, presses Enter, clicks, reads what shows. Widgets are found by
- * their type in the order of the tree, never through the wizard's members.
+ * A user in front of the wizard, on a new and empty level: types, presses Enter, clicks, reads what shows. Widgets are
+ * found by their type in the order of the tree, never through the wizard's members.
  */
 class FWizardUser
 {
@@ -30,6 +30,8 @@ public:
 
 	/** Selects what stands in the name box and types the text instead, one character after the other. */
 	void Type(const FString& Text);
+	/** Moves the focus into the name box and leaves its text. */
+	void FocusNameBox();
 	void PressEnter();
 	void ClickCreate();
 	/** Clicks the done page's button. */
