@@ -166,7 +166,12 @@ TEST_F(FModuleManagerTest, FindsNoFileForAnUnknownName)
 
 TEST_F(FModuleManagerTest, NamesThatAreNoNamesLeadOutOfNoFolder)
 {
-	EXPECT_FALSE(Manager.ModuleExists(TEXT("/../libCoreTestModule")));
+	const std::filesystem::path Folder = std::filesystem::path(::testing::TempDir()) / "NamesThatAreNoNames";
+	std::filesystem::create_directories(Folder / "lib");
+	std::ofstream(Folder / "libCoreTestOutside.so") << "there";
+	Manager.AddBinariesDirectory(*FromUtf8(Folder.string()), false);
+	ASSERT_TRUE(Manager.ModuleExists(TEXT("CoreTestOutside")));
+	EXPECT_FALSE(Manager.ModuleExists(TEXT("/../libCoreTestOutside")));
 	EXPECT_FALSE(Manager.ModuleExists(TEXT("")));
 	EXPECT_EQ(Manager.LoadModule(NAME_None), nullptr);
 }

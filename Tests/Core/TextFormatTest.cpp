@@ -49,7 +49,7 @@ TEST(FTextFormat, PutsValuesInPlaceOfTheirTokens)
 TEST(FTextFormat, LeavesATokenWithoutValueInPlace)
 {
 	EXPECT_EQ(Fill("{0} {2}"), "one {2}");
-	EXPECT_EQ(Fill("{99999999999999999999}"), "{99999999999999999999}");
+	EXPECT_EQ(Fill("{18446744073709551616}"), "{18446744073709551616}") << "would be 0 if it overflowed";
 	EXPECT_EQ(Fill("{Name}"), "{Name}");
 	EXPECT_EQ(Fill("{}"), "{}");
 	EXPECT_EQ(Fill("{-1}"), "{-1}");

@@ -109,6 +109,8 @@ TEST_F(FTextLocalizationManagerTest, ManySwapsNeverLeaveAnOldText)
 	{
 		UseBrackets(Count % 2 == 0 ? TEXT("(") : TEXT("<"), TEXT("."));
 		ASSERT_EQ(Text.ToString()[0], Count % 2 == 0 ? TEXT('(') : TEXT('<')) << Count;
+		ASSERT_EQ(Utf8(FText::Format(INVTEXT("{0}"), INVTEXT("y")).ToString()), "y")
+			<< "a text that is new, at " << Count;
 	}
 }
 

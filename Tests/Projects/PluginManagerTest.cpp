@@ -187,3 +187,13 @@ TEST_F(IPluginManagerTest, ReportsAModuleThatIsMissingAndLoadsTheOthers)
 		"Plugin 'Omicron': module 'Omicron1' was not loaded: its file was not found\n");
 	EXPECT_EQ(Started(), (std::vector<std::string>{"Omicron2"}));
 }
+
+TEST_F(IPluginManagerTest, LoadsNoModulesOfASecondPluginWithOneName)
+{
+	Register({"Pi1", "Pi2"});
+	Folder.Write("Plugins/A/Pi.uplugin", R"({"Modules": [{"Name": "Pi1"}]})");
+	Folder.Write("Plugins/B/Pi.uplugin", R"({"Modules": [{"Name": "Pi2"}]})");
+	Search();
+	EXPECT_TRUE(Manager.LoadModulesForEnabledPlugins(ELoadingPhase::Default));
+	EXPECT_EQ(Started(), (std::vector<std::string>{"Pi1"}));
+}

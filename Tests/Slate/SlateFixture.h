@@ -17,15 +17,9 @@ protected:
 		FSlateApplication::Create();
 		FSlateApplication::Get().InitializeRenderer(MakeShared<FSlateNullRenderer>());
 	}
-	virtual ~FSlateFixture() override
-	{
-		FSlateApplication::Shutdown();
-	}
+	virtual ~FSlateFixture() override { FSlateApplication::Shutdown(); }
 
-	static FSlateApplication& App()
-	{
-		return FSlateApplication::Get();
-	}
+	static FSlateApplication& App() { return FSlateApplication::Get(); }
 	static FPointerEvent MakePointerEvent(const FKey& Button)
 	{
 		return FPointerEvent(0, FVector2D(), FVector2D(), TSet<FKey>{Button}, Button, 0.0f, FModifierKeysState());

@@ -32,10 +32,7 @@ namespace
 	class FTextMeasureTest : public FSlateFixture
 	{
 	public:
-		FTextMeasureTest()
-		{
-			App().InitializeRenderer(MakeShared<FSlateRenderer>(FontMeasure));
-		}
+		FTextMeasureTest() { App().InitializeRenderer(MakeShared<FSlateRenderer>(FontMeasure)); }
 		FVector2D Measure(const TCHAR* Text, float WrapWidth)
 		{
 			return TextMeasure.Measure(FString(Text), FCoreStyle::GetDefaultFontStyle("Regular", 10), WrapWidth);
@@ -131,8 +128,7 @@ RC_GTEST_FIXTURE_PROP(FTextMeasureTest, TakesAtMostTheWrapWidthAndLosesNoCharact
 	const auto Letters = *rc::gen::container<std::u16string>(rc::gen::element(u'a', u'b', u' ', u'\n'));
 	const int Columns = *rc::gen::inRange(1, 12);
 	const FString Text(static_cast<int32>(Letters.size()), Letters.data());
-	const FVector2D Size =
-		TextMeasure.Measure(Text, FSlateFontInfo(), static_cast<float>(Columns) * 10.0f);
+	const FVector2D Size = TextMeasure.Measure(Text, FSlateFontInfo(), static_cast<float>(Columns) * 10.0f);
 	RC_ASSERT(Size.X <= static_cast<float>(Columns) * 10.0f);
 	int Visible = 0;
 	for (const char16_t Letter : Letters)

@@ -12,21 +12,15 @@ class STestLeaf : public SLeafWidget
 {
 public:
 	SLATE_BEGIN_ARGS(STestLeaf) {}
-		SLATE_ARGUMENT(FVector2D, Size)
+	SLATE_ARGUMENT(FVector2D, Size)
 	SLATE_END_ARGS()
 
-	void Construct(const FArguments& InArgs)
-	{
-		Size = InArgs._Size;
-	}
+	void Construct(const FArguments& InArgs) { Size = InArgs._Size; }
 
 	FVector2D Size;
 
 protected:
-	virtual FVector2D ComputeDesiredSize(float /*LayoutScaleMultiplier*/) const override
-	{
-		return Size;
-	}
+	virtual FVector2D ComputeDesiredSize(float /*LayoutScaleMultiplier*/) const override { return Size; }
 };
 
 /** A leaf that wants all the width that it may have, or one unit of it where there is no limit. */

@@ -231,8 +231,10 @@ TEST(UEditorEngine, DeselectsAllWhenItOpensALevel)
 {
 	const FTestEditor Editor;
 	GEditor->SelectActor(Editor.Spawn(), true, false);
-	GEditor->GetSelectedObjects()->Select(Editor.World());
+	GEditor->GetSelectedObjects()->Select(GEditor);
+	const FSelectionCounter Counter;
 	GEditor->NewMap();
+	EXPECT_EQ(Counter.Count, 1);
 	EXPECT_EQ(GEditor->GetSelectedActors()->Num(), 0);
 	EXPECT_EQ(GEditor->GetSelectedObjects()->Num(), 0);
 }

@@ -12,11 +12,11 @@ namespace
 	{
 	public:
 		SLATE_BEGIN_ARGS(SListener) : _Log(nullptr), _bFocusable(true), _bHandles(false) {}
-			SLATE_DEFAULT_SLOT(FArguments, Content)
-			SLATE_ARGUMENT(std::vector<std::string>*, Log)
-			SLATE_ARGUMENT(std::string, Name)
-			SLATE_ARGUMENT(bool, bFocusable)
-			SLATE_ARGUMENT(bool, bHandles)
+		SLATE_DEFAULT_SLOT(FArguments, Content)
+		SLATE_ARGUMENT(std::vector<std::string>*, Log)
+		SLATE_ARGUMENT(std::string, Name)
+		SLATE_ARGUMENT(bool, bFocusable)
+		SLATE_ARGUMENT(bool, bHandles)
 		SLATE_END_ARGS()
 
 		void Construct(const FArguments& InArgs)
@@ -24,18 +24,12 @@ namespace
 			Arguments = InArgs;
 			ChildSlot[InArgs._Content.Widget];
 		}
-		virtual bool SupportsKeyboardFocus() const override
-		{
-			return Arguments._bFocusable;
-		}
+		virtual bool SupportsKeyboardFocus() const override { return Arguments._bFocusable; }
 		virtual FReply OnFocusReceived(const FGeometry& /*MyGeometry*/, const FFocusEvent& /*Event*/) override
 		{
 			return Hear("got focus");
 		}
-		virtual void OnFocusLost(const FFocusEvent& /*Event*/) override
-		{
-			Hear("lost focus");
-		}
+		virtual void OnFocusLost(const FFocusEvent& /*Event*/) override { Hear("lost focus"); }
 		virtual FReply OnKeyDown(const FGeometry& /*MyGeometry*/, const FKeyEvent& /*Event*/) override
 		{
 			return Hear("key");
@@ -217,10 +211,12 @@ TEST_F(FSlateApplicationTest, MovesTheFocusInTheOrderOfTheTree)
 	const TSharedRef<SListener> Hidden = Listen("hidden");
 	const TSharedRef<SListener> Third = Listen("third");
 	Hidden->SetVisibility(EVisibility::Hidden);
+	// clang-format off
 	const TSharedRef<SVerticalBox> Root = SNew(SVerticalBox)
 		+ SVerticalBox::Slot()[SNew(SHorizontalBox) + SHorizontalBox::Slot()[First] + SHorizontalBox::Slot()[Second]]
 		+ SVerticalBox::Slot()[Hidden]
 		+ SVerticalBox::Slot()[Third];
+	// clang-format on
 	App().SetKeyboardFocus(First);
 	EXPECT_TRUE(KeyDown(EKeys::Tab));
 	EXPECT_TRUE(HasFocus(Second));
@@ -261,9 +257,11 @@ TEST_F(FSlateApplicationTest, TakesTheFocusBackFromAWidgetThatWasHiddenByTheLoss
 TEST_F(FSlateApplicationTest, MakesAPathFromTheRootWithGeometries)
 {
 	const TSharedRef<STestLeaf> Leaf = MakeLeaf(30.0f, 20.0f);
+	// clang-format off
 	const TSharedRef<SVerticalBox> Root = SNew(SVerticalBox)
 		+ SVerticalBox::Slot().AutoHeight()[MakeLeaf(100.0f, 50.0f)]
 		+ SVerticalBox::Slot().AutoHeight().HAlign(HAlign_Right).Padding(5)[Leaf];
+	// clang-format on
 	FWidgetPath Path;
 	ASSERT_TRUE(App().GeneratePathToWidgetUnchecked(Leaf, Path));
 	ASSERT_EQ(Path.Widgets.Num(), 2);

@@ -27,10 +27,7 @@ namespace
 			Tabs().UnregisterNomadTabSpawner("One");
 			Tabs().UnregisterNomadTabSpawner("Two");
 		}
-		static FGlobalTabmanager& Tabs()
-		{
-			return FGlobalTabmanager::Get().Get();
-		}
+		static FGlobalTabmanager& Tabs() { return FGlobalTabmanager::Get().Get(); }
 		TSharedRef<SDockTab> Spawn(const FSpawnTabArgs& Args)
 		{
 			Spawned.Add(Args.GetTabId().TabType);
@@ -54,7 +51,8 @@ TEST_F(FTabManagerTest, KnowsItsSpawnersUntilTheyAreUnregistered)
 
 TEST_F(FTabManagerDeathTest, DiesOfASecondSpawnerOfOneType)
 {
-	EXPECT_EXIT(Tabs().RegisterNomadTabSpawner("ONE", FOnSpawnTab()), ::testing::ExitedWithCode(3), "'ONE' is registered already");
+	EXPECT_EXIT(Tabs().RegisterNomadTabSpawner("ONE", FOnSpawnTab()), ::testing::ExitedWithCode(3),
+		"'ONE' is registered already");
 }
 
 TEST_F(FTabManagerTest, SpawnsATabInFront)
@@ -127,10 +125,12 @@ TEST_F(FTabManagerTest, BringsTheLastOpenedTabForwardWhenTheFrontOneCloses)
 
 TEST_F(FTabManagerTest, LeavesTheFrontTabWhereItIsWhenAnotherOneCloses)
 {
-	Tabs().TryInvokeTab(FName("One"));
+	const TSharedPtr<SDockTab> One = Tabs().TryInvokeTab(FName("One"));
 	const TSharedPtr<SDockTab> Two = Tabs().TryInvokeTab(FName("Two"));
-	Tabs().TryInvokeTab(FName("One"))->RequestCloseTab();
-	EXPECT_TRUE(Two->IsForeground());
+	Tabs().TryInvokeTab(FTabId("Two", 7));
+	Tabs().TryInvokeTab(FName("One"));
+	Two->RequestCloseTab();
+	EXPECT_TRUE(One->IsForeground());
 }
 
 TEST_F(FTabManagerTest, SpawnsAnewAfterTheTabWasClosed)
@@ -172,8 +172,9 @@ TEST_F(FTabManagerTest, CommitsTheBoxThatIsTypedIntoWhenTheTabCloses)
 {
 	int32 Commits = 0;
 	const TSharedPtr<SDockTab> Tab = Tabs().TryInvokeTab(FName("One"));
-	const TSharedRef<SEditableTextBox> Box = SNew(SEditableTextBox).OnTextCommitted_Lambda(
-		[&Commits](const FText& /*Text*/, ETextCommit::Type /*CommitType*/) { ++Commits; });
+	const TSharedRef<SEditableTextBox> Box =
+		SNew(SEditableTextBox)
+			.OnTextCommitted_Lambda([&Commits](const FText& /*Text*/, ETextCommit::Type /*CommitType*/) { ++Commits; });
 	Tab->SetContent(Box);
 	App().SetKeyboardFocus(Box);
 	Tab->RequestCloseTab();
@@ -194,7 +195,8 @@ TEST_F(FTabManagerTest, ArrangesAnOpenTabInItsFixedSizeAndAClosedOneNotAtAll)
 TEST_F(FTabManagerTest, KeepsAnOpenTabAndItsLabelWhenTheSpawnerGoes)
 {
 	Tabs().UnregisterNomadTabSpawner("Two");
-	Tabs().RegisterNomadTabSpawner("Two", FOnSpawnTab::CreateRaw(this, &FTabManagerTest::Spawn))
+	Tabs()
+		.RegisterNomadTabSpawner("Two", FOnSpawnTab::CreateRaw(this, &FTabManagerTest::Spawn))
 		.SetDisplayName(FText::FromString(TEXT("The Label")))
 		.SetTooltipText(FText::FromString(TEXT("The Tooltip")))
 		.SetAutoGenerateMenuEntry(false)

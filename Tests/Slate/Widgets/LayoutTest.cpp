@@ -47,6 +47,7 @@ TEST(SBox, LetsItsContentFillIt)
 	EXPECT_EQ(ToRect(Arranged[0].Geometry), (FTestRect{0.0f, 0.0f, 300.0f, 50.0f}));
 }
 
+// clang-format off
 TEST(SScrollBox, StacksItsChildrenFromTheTop)
 {
 	const TSharedRef<SScrollBox> Box = SNew(SScrollBox)
@@ -176,6 +177,7 @@ namespace
 		TSharedPtr<SButton> Button;
 	};
 }
+// clang-format on
 
 TEST_F(FColumnPageTest, PutsEverythingWhereItsPaddingsAndHeightsSay)
 {

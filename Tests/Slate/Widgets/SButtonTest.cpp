@@ -11,6 +11,7 @@ namespace
 	class FButtonTest : public FSlateFixture
 	{
 	public:
+		// clang-format off
 		FButtonTest()
 		{
 			Root = SNew(SVerticalBox)
@@ -23,6 +24,7 @@ namespace
 				]
 				+ SVerticalBox::Slot().AutoHeight()[SAssignNew(Second, SButton)];
 		}
+		// clang-format on
 		FReply OnFirstClicked()
 		{
 			++FirstClicks;

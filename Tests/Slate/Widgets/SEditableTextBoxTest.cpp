@@ -14,6 +14,7 @@ namespace
 	class FEditableTextBoxTest : public FSlateFixture
 	{
 	public:
+		// clang-format off
 		FEditableTextBoxTest()
 		{
 			Root = SNew(SVerticalBox)
@@ -29,6 +30,7 @@ namespace
 				];
 			App().SetKeyboardFocus(Box);
 		}
+		// clang-format on
 		void OnTextChanged(const FText& Text)
 		{
 			Log.push_back(std::string("changed ") + TCHAR_TO_UTF8(*Text.ToString()));
@@ -48,10 +50,7 @@ namespace
 			FPlatformApplicationMisc::ClipboardCopy(Text);
 			KeyDown(EKeys::V, false, true);
 		}
-		bool Shows(const TCHAR* Text) const
-		{
-			return Box->GetText().ToString().Equals(Text);
-		}
+		bool Shows(const TCHAR* Text) const { return Box->GetText().ToString().Equals(Text); }
 
 		typedef std::vector<std::string> FLog;
 		FLog Log;
@@ -194,11 +193,13 @@ TEST_F(FEditableTextBoxTest, CommitsOnceALossWhetherAnythingWasTypedOrNot)
 TEST_F(FEditableTextBoxTest, DoesNotCommitAgainWhenTheHandlerClearsTheFocus)
 {
 	FLog Commits;
-	const TSharedRef<SEditableTextBox> Eager =
-		SNew(SEditableTextBox).OnTextCommitted_Lambda([&Commits](const FText& /*Text*/, ETextCommit::Type /*Type*/) {
-			Commits.push_back("committed");
-			App().ClearKeyboardFocus(EFocusCause::Cleared);
-		});
+	const TSharedRef<SEditableTextBox> Eager = SNew(SEditableTextBox)
+												   .OnTextCommitted_Lambda(
+													   [&Commits](const FText& /*Text*/, ETextCommit::Type /*Type*/)
+													   {
+														   Commits.push_back("committed");
+														   App().ClearKeyboardFocus(EFocusCause::Cleared);
+													   });
 	App().SetKeyboardFocus(Eager);
 	App().SetKeyboardFocus(Box);
 	EXPECT_EQ(Commits.size(), 1u);
@@ -259,9 +260,9 @@ TEST_F(FEditableTextBoxTest, GetsNoKeysWithoutTheFocus)
 TEST_F(FEditableTextBoxTest, LetsTheHandlerOfAChangeSetAnotherText)
 {
 	TSharedPtr<SEditableTextBox> Changer;
-	SAssignNew(Changer, SEditableTextBox).OnTextChanged_Lambda([&Changer](const FText& /*Text*/) {
-		Changer->SetText(FText::FromString(TEXT("fixed")));
-	});
+	SAssignNew(Changer, SEditableTextBox)
+		.OnTextChanged_Lambda(
+			[&Changer](const FText& /*Text*/) { Changer->SetText(FText::FromString(TEXT("fixed"))); });
 	App().SetKeyboardFocus(Changer);
 	TypeUnit(TEXT('x'));
 	EXPECT_TRUE(Changer->GetText().ToString().Equals(TEXT("fixed")));
@@ -284,8 +285,11 @@ TEST_F(FEditableTextBoxTest, GrowsWithItsText)
 {
 	Type(TEXT("some text"));
 	Box->SlatePrepass(1.0f);
-	const float TextWidth = App().GetRenderer()->GetFontMeasureService()->Measure(
-		Box->GetText(), FCoreStyle::GetDefaultFontStyle("Regular", 9)).X;
+	const float TextWidth = App()
+								.GetRenderer()
+								->GetFontMeasureService()
+								->Measure(Box->GetText(), FCoreStyle::GetDefaultFontStyle("Regular", 9))
+								.X;
 	EXPECT_FLOAT_EQ(Box->GetDesiredSize().X, TextWidth + 8.0f);
 }
 
@@ -358,13 +362,14 @@ namespace
 	rc::Gen<FEdit> GenerateEdit()
 	{
 		const auto CodePoint = rc::gen::element<char32_t>(U'a', U' ', U'\u00e4', U'\u6620', U'\U0001F3A5');
-		return rc::gen::mapcat(rc::gen::inRange(0, 6), [CodePoint](int Kind) {
-			const FEdit::EKind EditKind = Kind < 3 ? FEdit::TypeCharacter : static_cast<FEdit::EKind>(Kind - 2);
-			const auto Text = EditKind == FEdit::TypeCharacter
-				? rc::gen::container<std::u32string>(1, CodePoint)
-				: rc::gen::container<std::u32string>(CodePoint);
-			return rc::gen::map(Text, [EditKind](const std::u32string& Value) { return FEdit{EditKind, Value}; });
-		});
+		return rc::gen::mapcat(rc::gen::inRange(0, 6),
+			[CodePoint](int Kind)
+			{
+				const FEdit::EKind EditKind = Kind < 3 ? FEdit::TypeCharacter : static_cast<FEdit::EKind>(Kind - 2);
+				const auto Text = EditKind == FEdit::TypeCharacter ? rc::gen::container<std::u32string>(1, CodePoint)
+																   : rc::gen::container<std::u32string>(CodePoint);
+				return rc::gen::map(Text, [EditKind](const std::u32string& Value) { return FEdit{EditKind, Value}; });
+			});
 	}
 }
 
@@ -376,18 +381,18 @@ RC_GTEST_FIXTURE_PROP(FEditableTextBoxTest, EditsLikeAPlainModel, ())
 		const std::u16string Units = ToUtf16(Edit.Text);
 		switch (Edit.Kind)
 		{
-		case FEdit::TypeCharacter:
-			Type(FString(static_cast<int32>(Units.size()), Units.data()));
-			break;
-		case FEdit::Backspace:
-			TypeUnit(8);
-			break;
-		case FEdit::SelectAll:
-			KeyDown(EKeys::A, false, true);
-			break;
-		case FEdit::PasteText:
-			Paste(Units.c_str());
-			break;
+			case FEdit::TypeCharacter:
+				Type(FString(static_cast<int32>(Units.size()), Units.data()));
+				break;
+			case FEdit::Backspace:
+				TypeUnit(8);
+				break;
+			case FEdit::SelectAll:
+				KeyDown(EKeys::A, false, true);
+				break;
+			case FEdit::PasteText:
+				Paste(Units.c_str());
+				break;
 		}
 		Model.Apply(Edit);
 		RC_ASSERT(std::u16string(*Box->GetText().ToString()) == ToUtf16(Model.Text));

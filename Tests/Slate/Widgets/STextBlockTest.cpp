@@ -21,9 +21,8 @@ namespace
 
 TEST_F(FTextBlockTest, IsAsLargeAsItsTextInItsFont)
 {
-	const TSharedRef<STextBlock> Block = SNew(STextBlock)
-		.Text(FText::FromString(TEXT("Title")))
-		.Font(FCoreStyle::GetDefaultFontStyle("Regular", 19));
+	const TSharedRef<STextBlock> Block =
+		SNew(STextBlock).Text(FText::FromString(TEXT("Title"))).Font(FCoreStyle::GetDefaultFontStyle("Regular", 19));
 	Block->SlatePrepass(1.0f);
 	EXPECT_EQ(Block->GetDesiredSize(), MeasureLine(TEXT("Title"), 19));
 }

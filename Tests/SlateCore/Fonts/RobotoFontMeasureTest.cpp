@@ -72,7 +72,8 @@ TEST(FRobotoFontMeasure, MeasuresAPartOfAText)
 
 TEST(FRobotoFontMeasure, ScalesTheSizeBeforeItIsRounded)
 {
-	EXPECT_EQ(GMeasure.Measure(FString(TEXT("0")), Regular(6), 2.0f), GMeasure.Measure(FString(TEXT("0")), Regular(12)));
+	EXPECT_EQ(
+		GMeasure.Measure(FString(TEXT("0")), Regular(6), 2.0f), GMeasure.Measure(FString(TEXT("0")), Regular(12)));
 }
 
 TEST(FSlateNullRenderer, MeasuresTextLikeRoboto)

@@ -6,8 +6,7 @@
 namespace
 {
 	class FTestSlot : public TAlignedSlot<FTestSlot>
-	{
-	};
+	{};
 
 	/** A leaf of 40 × 10 in a slot, prepassed. */
 	struct FSlotFixture : public ::testing::Test

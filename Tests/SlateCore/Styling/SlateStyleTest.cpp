@@ -9,14 +9,8 @@ namespace
 	/** A brush that counts how many of its kind are alive. */
 	struct FCountedBrush : public FSlateBrush
 	{
-		explicit FCountedBrush(int32& InAlive) : Alive(InAlive)
-		{
-			++Alive;
-		}
-		virtual ~FCountedBrush() override
-		{
-			--Alive;
-		}
+		explicit FCountedBrush(int32& InAlive) : Alive(InAlive) { ++Alive; }
+		virtual ~FCountedBrush() override { --Alive; }
 
 		int32& Alive;
 	};

@@ -7,13 +7,13 @@ namespace
 {
 	DECLARE_DELEGATE_OneParam(FOnPoked, int32)
 
-	/** A leaf with an attribute and an event to bind. */
-	class SPokable : public SLeafWidget
+		/** A leaf with an attribute and an event to bind. */
+		class SPokable : public SLeafWidget
 	{
 	public:
 		SLATE_BEGIN_ARGS(SPokable) : _Limit(7) {}
-			SLATE_ATTRIBUTE(int32, Limit)
-			SLATE_EVENT(FOnPoked, OnPoked)
+		SLATE_ATTRIBUTE(int32, Limit)
+		SLATE_EVENT(FOnPoked, OnPoked)
 		SLATE_END_ARGS()
 
 		void Construct(const FArguments& InArgs)
@@ -29,10 +29,7 @@ namespace
 		FOnPoked OnPoked;
 
 	protected:
-		virtual FVector2D ComputeDesiredSize(float /*LayoutScaleMultiplier*/) const override
-		{
-			return FVector2D();
-		}
+		virtual FVector2D ComputeDesiredSize(float /*LayoutScaleMultiplier*/) const override { return FVector2D(); }
 	};
 
 	TSharedPtr<SPokable>* SPokable::Exposed = nullptr;
@@ -41,22 +38,10 @@ namespace
 	class FOwner : public TSharedFromThis<FOwner>
 	{
 	public:
-		int32 GetLimit() const
-		{
-			return 20;
-		}
-		int32 GetLimitPlus(int32 More) const
-		{
-			return 20 + More;
-		}
-		void OnPoked(int32 Strength)
-		{
-			Last = Strength;
-		}
-		void OnPokedWith(int32 Strength, int32 Payload)
-		{
-			Last = Strength * 100 + Payload;
-		}
+		int32 GetLimit() const { return 20; }
+		int32 GetLimitPlus(int32 More) const { return 20 + More; }
+		void OnPoked(int32 Strength) { Last = Strength; }
+		void OnPokedWith(int32 Strength, int32 Payload) { Last = Strength * 100 + Payload; }
 
 		int32 Last = 0;
 	};

@@ -4,6 +4,7 @@
 
 #include "TestWidgets.h"
 
+// clang-format off
 TEST(SVerticalBox, WantsTheSumOfHeightsAndTheGreatestWidth)
 {
 	const TSharedRef<SVerticalBox> Box = SNew(SVerticalBox)
@@ -113,6 +114,7 @@ TEST(SHorizontalBox, LaysOutAlongTheWidth)
 	EXPECT_EQ(ToRect(Arranged[2].Geometry), (FTestRect{88.0f, 0.0f, 30.0f, 30.0f}));
 	EXPECT_EQ(Box->GetDesiredSize(), FVector2D(30.0f, 10.0f));
 }
+// clang-format on
 
 namespace
 {
@@ -126,19 +128,14 @@ namespace
 		int PaddingBottom;
 		int Visibility;
 
-		bool TakesPlace() const
-		{
-			return Visibility != 2;
-		}
-		int Fixed() const
-		{
-			return PaddingTop + PaddingBottom + (bAuto ? Height : 0);
-		}
+		bool TakesPlace() const { return Visibility != 2; }
+		int Fixed() const { return PaddingTop + PaddingBottom + (bAuto ? Height : 0); }
 	};
 
 	rc::Gen<FModelSlot> GenerateSlot()
 	{
-		return rc::gen::build<FModelSlot>(rc::gen::set(&FModelSlot::bAuto), rc::gen::set(&FModelSlot::Weight, rc::gen::inRange(1, 8)),
+		return rc::gen::build<FModelSlot>(rc::gen::set(&FModelSlot::bAuto),
+			rc::gen::set(&FModelSlot::Weight, rc::gen::inRange(1, 8)),
 			rc::gen::set(&FModelSlot::Height, rc::gen::inRange(0, 100)),
 			rc::gen::set(&FModelSlot::PaddingTop, rc::gen::inRange(0, 10)),
 			rc::gen::set(&FModelSlot::PaddingBottom, rc::gen::inRange(0, 10)),
@@ -183,8 +180,7 @@ RC_GTEST_PROP(SVerticalBox, FollowsAPlainModel, ())
 		Fixed += Slot.TakesPlace() ? Slot.Fixed() : 0;
 		Weights += Slot.TakesPlace() && !Slot.bAuto ? Slot.Weight : 0;
 	}
-	const FArrangedChildren Arranged =
-		ArrangeIn(MakeBox(Model), 50.0f, static_cast<float>(Allotted), EVisibility::All);
+	const FArrangedChildren Arranged = ArrangeIn(MakeBox(Model), 50.0f, static_cast<float>(Allotted), EVisibility::All);
 	const double Unit = Weights > 0 ? std::max(Allotted - Fixed, 0) / static_cast<double>(Weights) : 0.0;
 	double Start = 0.0;
 	int32 Index = 0;

@@ -11,17 +11,14 @@ namespace
 	{
 	public:
 		SLATE_BEGIN_ARGS(STestCompound) {}
-			SLATE_DEFAULT_SLOT(FArguments, Content)
+		SLATE_DEFAULT_SLOT(FArguments, Content)
 		SLATE_END_ARGS()
 
 		void Construct(const FArguments& InArgs)
 		{
 			ChildSlot.HAlign(HAlign_Right).Padding(2, 4)[InArgs._Content.Widget];
 		}
-		void SetContent(const TSharedRef<SWidget>& Content)
-		{
-			ChildSlot[Content];
-		}
+		void SetContent(const TSharedRef<SWidget>& Content) { ChildSlot[Content]; }
 	};
 }
 
@@ -95,8 +92,10 @@ TEST(SWidget, HandsTheWidthCapDownLessThePaddings)
 	};
 	const TSharedRef<SGreedyLeaf> Greedy = SNew(SGreedyLeaf);
 	const TSharedRef<SCapped> Capped = MakeShared<SCapped>();
+	// clang-format off
 	Capped->SetContent(SNew(SVerticalBox) + SVerticalBox::Slot().Padding(10, 0)
 		[SNew(SOverlay) + SOverlay::Slot().Padding(1, 0, 2, 0)[SNew(STestCompound)[Greedy]]]);
+	// clang-format on
 	Capped->SlatePrepass(1.0f);
 	EXPECT_EQ(Greedy->GetDesiredSize().X, 300.0f - 20.0f - 3.0f - 4.0f);
 }

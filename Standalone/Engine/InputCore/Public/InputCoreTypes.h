@@ -11,18 +11,9 @@ struct INPUTCORE_API FKey
 	FKey(const FName InName) : KeyName(InName) {}
 	FKey(const ANSICHAR* InName) : KeyName(InName) {}
 
-	bool operator==(const FKey& Other) const
-	{
-		return KeyName == Other.KeyName;
-	}
-	bool operator!=(const FKey& Other) const
-	{
-		return !(*this == Other);
-	}
-	friend uint32 GetTypeHash(const FKey& Key)
-	{
-		return GetTypeHash(Key.KeyName);
-	}
+	bool operator==(const FKey& Other) const { return KeyName == Other.KeyName; }
+	bool operator!=(const FKey& Other) const { return !(*this == Other); }
+	friend uint32 GetTypeHash(const FKey& Key) { return GetTypeHash(Key.KeyName); }
 
 private:
 	FName KeyName;

@@ -12,10 +12,11 @@ namespace
 	{
 	public:
 		FLineBreaker(const FString& InText, const FSlateFontInfo& InFont, float InWrapWidth)
-			: Text(InText), Font(InFont), WrapWidth(InWrapWidth),
+			: Text(InText),
+			  Font(InFont),
+			  WrapWidth(InWrapWidth),
 			  FontMeasure(FSlateApplication::Get().GetRenderer()->GetFontMeasureService())
-		{
-		}
+		{}
 
 		FVector2D MeasureAll()
 		{
@@ -32,10 +33,7 @@ namespace
 		}
 
 	private:
-		float Width(int32 Start, int32 End) const
-		{
-			return FontMeasure->Measure(Text, Start, End, Font).X;
-		}
+		float Width(int32 Start, int32 End) const { return FontMeasure->Measure(Text, Start, End, Font).X; }
 		void AddLine(int32 Start, int32 End)
 		{
 			Widest = FMath::Max(Widest, Width(Start, End));
@@ -69,7 +67,8 @@ namespace
 			// White space at the very end is part of the last line as long as it fits.
 			AddLine(LineStart, Width(LineStart, End) > WrapWidth ? LineEnd : End);
 		}
-		/** Adds the full lines of what starts at LineStart and has no break before WordEnd. @return where the last line starts. */
+		/** Adds the full lines of what starts at LineStart and has no break before WordEnd. @return where the last line
+		 * starts. */
 		int32 BreakLongWord(int32 LineStart, int32 WordEnd)
 		{
 			while (Width(LineStart, WordEnd) > WrapWidth)
@@ -90,7 +89,8 @@ namespace
 		}
 		int32 NextCharacter(int32 Index) const
 		{
-			const bool bPair = (Text[Index] & 0xfc00) == 0xd800 && Index + 1 < Text.Len() && (Text[Index + 1] & 0xfc00) == 0xdc00;
+			const bool bPair =
+				(Text[Index] & 0xfc00) == 0xd800 && Index + 1 < Text.Len() && (Text[Index + 1] & 0xfc00) == 0xdc00;
 			return Index + (bPair ? 2 : 1);
 		}
 

@@ -6,7 +6,8 @@
 
 namespace
 {
-	/** The null widget stands in many places at once and has no parent; and the owner of an empty slot need not be shared yet. */
+	/** The null widget stands in many places at once and has no parent; and the owner of an empty slot need not be
+	 * shared yet. */
 	void AdoptInto(const TSharedRef<SWidget>& Widget, SWidget& Owner)
 	{
 		if (Widget != SNullWidget::NullWidget)

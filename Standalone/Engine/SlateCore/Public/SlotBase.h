@@ -17,10 +17,7 @@ public:
 	FSlotBase(const FSlotBase&) = delete;
 	FSlotBase& operator=(const FSlotBase&) = delete;
 
-	const TSharedRef<SWidget>& GetWidget() const
-	{
-		return Widget;
-	}
+	const TSharedRef<SWidget>& GetWidget() const { return Widget; }
 	/** Replaces the content. With an owner, the new content's parent becomes that owner. */
 	void AttachWidget(const TSharedRef<SWidget>& InWidget);
 	/** The widget whose slot this is. Its content has no parent before. */
@@ -61,10 +58,7 @@ public:
 		this->VAlignment = InVAlignment;
 		return Me();
 	}
-	SlotType& Padding(float Uniform)
-	{
-		return Padding(TAttribute<FMargin>(FMargin(Uniform)));
-	}
+	SlotType& Padding(float Uniform) { return Padding(TAttribute<FMargin>(FMargin(Uniform))); }
 	SlotType& Padding(float Horizontal, float Vertical)
 	{
 		return Padding(TAttribute<FMargin>(FMargin(Horizontal, Vertical)));
@@ -80,8 +74,5 @@ public:
 	}
 
 private:
-	SlotType& Me()
-	{
-		return static_cast<SlotType&>(*this);
-	}
+	SlotType& Me() { return static_cast<SlotType&>(*this); }
 };

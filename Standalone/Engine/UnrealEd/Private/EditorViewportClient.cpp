@@ -21,9 +21,3 @@ UWorld* FEditorViewportClient::GetWorld() const
 {
 	return World.IsValid() ? World.Get() : GEditor->GetEditorWorldContext().World();
 }
-
-void FEditorViewportClient::SetWorld(UWorld* InWorld)
-{
-	// Set by name or not: a client of the open level follows when another one is opened.
-	World = InWorld == GEditor->GetEditorWorldContext().World() ? nullptr : InWorld;
-}

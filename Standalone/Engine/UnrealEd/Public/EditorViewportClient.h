@@ -24,7 +24,7 @@ public:
 	UWorld* GetWorld() const override;
 
 	/** The stand-alone editor's own: shows a world other than that of the open level; null for the latter. */
-	void SetWorld(UWorld* InWorld);
+	void SetWorld(UWorld* InWorld) { World = InWorld; }
 
 	const FVector& GetViewLocation() const { return ViewLocation; }
 	const FRotator& GetViewRotation() const { return ViewRotation; }

@@ -18,14 +18,8 @@ public:
 			Add(Element);
 		}
 	}
-	void Add(const InElementType& Element)
-	{
-		Elements.Add(Element, true);
-	}
-	bool Contains(const InElementType& Element) const
-	{
-		return Elements.Contains(Element);
-	}
+	void Add(const InElementType& Element) { Elements.Add(Element, true); }
+	bool Contains(const InElementType& Element) const { return Elements.Contains(Element); }
 
 private:
 	TMap<InElementType, bool> Elements;

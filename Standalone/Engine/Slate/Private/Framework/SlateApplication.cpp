@@ -224,8 +224,7 @@ bool FSlateApplication::GeneratePathToWidgetUnchecked(
 	const TSharedRef<const SWidget>& InWidget, FWidgetPath& OutWidgetPath, EVisibility VisibilityFilter) const
 {
 	OutWidgetPath = FWidgetPath();
-	const TArray<TSharedRef<SWidget>> Ancestry =
-		GetWidgetAndAncestors(const_cast<SWidget&>(InWidget.Get()).AsShared());
+	const TArray<TSharedRef<SWidget>> Ancestry = GetWidgetAndAncestors(const_cast<SWidget&>(InWidget.Get()).AsShared());
 	const TSharedRef<SWidget>& Root = Ancestry.Last();
 	if (!EVisibility::DoesVisibilityPassFilter(Root->GetVisibility(), VisibilityFilter))
 	{
@@ -245,7 +244,8 @@ bool FSlateApplication::GeneratePathToWidgetUnchecked(
 	return true;
 }
 
-FReply FSlateApplication::RoutePointerDownEvent(const FWidgetPath& WidgetsUnderPointer, const FPointerEvent& PointerEvent)
+FReply FSlateApplication::RoutePointerDownEvent(
+	const FWidgetPath& WidgetsUnderPointer, const FPointerEvent& PointerEvent)
 {
 	DropLostFocus();
 	FReply Reply = FReply::Unhandled();

@@ -34,8 +34,8 @@ TSharedPtr<SDockTab> FGlobalTabmanager::TryInvokeTab(const FTabId& TabId, bool b
 	{
 		const TSharedPtr<FTabSpawnerEntry> Spawner = NomadTabSpawner.FindRef(TabId.TabType);
 		const FSpawnTabArgs Args(nullptr, TabId);
-		const bool bCanSpawn = Spawner.IsValid() && Spawner->OnSpawnTab.IsBound()
-			&& (!Spawner->CanSpawnTab.IsBound() || Spawner->CanSpawnTab.Execute(Args));
+		const bool bCanSpawn = Spawner.IsValid() && Spawner->OnSpawnTab.IsBound() &&
+			(!Spawner->CanSpawnTab.IsBound() || Spawner->CanSpawnTab.Execute(Args));
 		if (!bCanSpawn)
 		{
 			return nullptr;

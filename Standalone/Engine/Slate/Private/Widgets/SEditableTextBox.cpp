@@ -46,13 +46,13 @@ namespace
 	{
 		switch (FocusCause)
 		{
-		case EFocusCause::Mouse:
-		case EFocusCause::Navigation:
-			return ETextCommit::OnUserMovedFocus;
-		case EFocusCause::Cleared:
-			return ETextCommit::OnCleared;
-		default:
-			return ETextCommit::Default;
+			case EFocusCause::Mouse:
+			case EFocusCause::Navigation:
+				return ETextCommit::OnUserMovedFocus;
+			case EFocusCause::Cleared:
+				return ETextCommit::OnCleared;
+			default:
+				return ETextCommit::Default;
 		}
 	}
 }
@@ -60,8 +60,8 @@ namespace
 void SEditableTextBox::Construct(const FArguments& InArgs)
 {
 	Text = InArgs._Text.Get();
-	Font = InArgs._Font.IsSet() ? InArgs._Font
-								: FCoreStyle::GetDefaultFontStyle("Regular", FCoreStyle::RegularTextSize);
+	Font =
+		InArgs._Font.IsSet() ? InArgs._Font : FCoreStyle::GetDefaultFontStyle("Regular", FCoreStyle::RegularTextSize);
 	MinDesiredWidth = InArgs._MinDesiredWidth;
 	ClearKeyboardFocusOnCommit = InArgs._ClearKeyboardFocusOnCommit;
 	OnTextChanged = InArgs._OnTextChanged;
@@ -148,7 +148,12 @@ FVector2D SEditableTextBox::ComputeDesiredSize(float /*LayoutScaleMultiplier*/) 
 
 void SEditableTextBox::ReplaceSelection(const FString& Insertion)
 {
-	FString NewText = bAllSelected ? FString() : Text.ToString();
+	FString NewText;
+	NewText.Reserve(Text.ToString().Len() + Insertion.Len());
+	if (!bAllSelected)
+	{
+		NewText += Text.ToString();
+	}
 	NewText += Insertion;
 	ChangeText(MoveTemp(NewText));
 }

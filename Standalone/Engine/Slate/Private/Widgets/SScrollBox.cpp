@@ -8,8 +8,8 @@ namespace
 {
 	bool TakesSpareHeight(const SScrollBox::FSlot& Slot)
 	{
-		return (Slot.VAlignment == VAlign_Center || Slot.VAlignment == VAlign_Bottom)
-			&& Slot.GetWidget()->GetVisibility() != EVisibility::Collapsed;
+		return (Slot.VAlignment == VAlign_Center || Slot.VAlignment == VAlign_Bottom) &&
+			Slot.GetWidget()->GetVisibility() != EVisibility::Collapsed;
 	}
 }
 

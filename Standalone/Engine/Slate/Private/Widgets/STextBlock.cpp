@@ -8,8 +8,8 @@
 void STextBlock::Construct(const FArguments& InArgs)
 {
 	Text = InArgs._Text;
-	Font = InArgs._Font.IsSet() ? InArgs._Font
-								: FCoreStyle::GetDefaultFontStyle("Regular", FCoreStyle::RegularTextSize);
+	Font =
+		InArgs._Font.IsSet() ? InArgs._Font : FCoreStyle::GetDefaultFontStyle("Regular", FCoreStyle::RegularTextSize);
 	ColorAndOpacity = InArgs._ColorAndOpacity;
 	Justification = InArgs._Justification;
 	AutoWrapText = InArgs._AutoWrapText;

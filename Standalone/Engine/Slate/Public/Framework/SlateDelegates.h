@@ -11,8 +11,11 @@ class SWidget;
 
 /** @file The delegates that widgets share. */
 
+// The formatter takes lines without semicolon for one.
+// clang-format off
 DECLARE_DELEGATE_RetVal(FReply, FOnClicked)
 DECLARE_DELEGATE_RetVal(TSharedRef<SWidget>, FOnGetContent)
 DECLARE_DELEGATE_OneParam(FOnTextChanged, const FText&)
 DECLARE_DELEGATE_TwoParams(FOnTextCommitted, const FText&, ETextCommit::Type)
 DECLARE_DELEGATE_OneParam(FOnCheckStateChanged, ECheckBoxState)
+	// clang-format on

@@ -5,16 +5,16 @@
 #include "Math/Vector2D.h"
 
 /**
- * The size of a text of one or more lines, in the application's renderer. It remembers its last answer, since layouts ask again
- * and again about texts that do not change.
+ * The size of a text of one or more lines, in the application's renderer. It remembers its last answer, since layouts
+ * ask again and again about texts that do not change.
  */
 class SLATE_API FTextMeasure
 {
 public:
 	/**
-	 * Lines end at line feeds and, where the text would become wider than WrapWidth, at the white space before; that white space
-	 * takes no width then. A word that is wider than WrapWidth is broken between two characters, each line keeping at least one.
-	 * An empty text is as high as one line.
+	 * Lines end at line feeds and, where the text would become wider than WrapWidth, at the white space before; that
+	 * white space takes no width then. A word that is wider than WrapWidth is broken between two characters, each line
+	 * keeping at least one. An empty text is as high as one line.
 	 */
 	const FVector2D& Measure(const FString& Text, const FSlateFontInfo& Font, float WrapWidth);
 

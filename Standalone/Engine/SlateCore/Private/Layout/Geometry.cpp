@@ -15,6 +15,5 @@ FGeometry FGeometry::MakeRoot(const FVector2D& InLocalSize, const FSlateLayoutTr
 FArrangedWidget FGeometry::MakeChild(
 	const TSharedRef<SWidget>& ChildWidget, const FVector2D& ChildOffset, const FVector2D& InLocalSize) const
 {
-	return FArrangedWidget(
-		ChildWidget, MakeRoot(InLocalSize, FSlateLayoutTransform(AbsolutePosition + ChildOffset)));
+	return FArrangedWidget(ChildWidget, MakeRoot(InLocalSize, FSlateLayoutTransform(AbsolutePosition + ChildOffset)));
 }

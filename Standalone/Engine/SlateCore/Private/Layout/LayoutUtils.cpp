@@ -17,14 +17,14 @@ AlignmentArrangeResult AlignChild(EOrientation Orientation, float AllottedSize, 
 		bHorizontal ? ChildToArrange.HAlignment : static_cast<EHorizontalAlignment>(ChildToArrange.VAlignment);
 	switch (Alignment)
 	{
-	case HAlign_Left:
-		return AlignmentArrangeResult{Before, Size};
-	case HAlign_Center:
-		return AlignmentArrangeResult{Before + (Available - Size) / 2.0f, Size};
-	case HAlign_Right:
-		return AlignmentArrangeResult{Before + Available - Size, Size};
-	default:
-		return AlignmentArrangeResult{Before, Available};
+		case HAlign_Left:
+			return AlignmentArrangeResult{Before, Size};
+		case HAlign_Center:
+			return AlignmentArrangeResult{Before + (Available - Size) / 2.0f, Size};
+		case HAlign_Right:
+			return AlignmentArrangeResult{Before + Available - Size, Size};
+		default:
+			return AlignmentArrangeResult{Before, Available};
 	}
 }
 
@@ -40,8 +40,8 @@ void ArrangeSingleChild(
 	const FVector2D& Allotted = AllottedGeometry.GetLocalSize();
 	const AlignmentArrangeResult X = AlignChild(Orient_Horizontal, Allotted.X, ChildSlot);
 	const AlignmentArrangeResult Y = AlignChild(Orient_Vertical, Allotted.Y, ChildSlot);
-	ArrangedChildren.AddWidget(ChildVisibility,
-		AllottedGeometry.MakeChild(Child, FVector2D(X.Offset, Y.Offset), FVector2D(X.Size, Y.Size)));
+	ArrangedChildren.AddWidget(
+		ChildVisibility, AllottedGeometry.MakeChild(Child, FVector2D(X.Offset, Y.Offset), FVector2D(X.Size, Y.Size)));
 }
 
 FVector2D GetSlotDesiredSize(const FAlignedSlot& Slot)

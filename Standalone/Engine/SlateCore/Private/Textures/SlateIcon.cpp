@@ -7,8 +7,7 @@ FSlateIcon::FSlateIcon() = default;
 
 FSlateIcon::FSlateIcon(const FName& InStyleSetName, const FName& InStyleName)
 	: StyleSetName(InStyleSetName), StyleName(InStyleName), bIsSet(true)
-{
-}
+{}
 
 const FSlateBrush* FSlateIcon::GetIcon() const
 {

@@ -28,9 +28,8 @@ FVector2D SBoxPanel::ComputeDesiredSize(float /*LayoutScaleMultiplier*/) const
 	for (int32 Index = 0; Index < Children.Num(); ++Index)
 	{
 		const FVector2D SlotSize = GetSlotDesiredSize(Children[Index]);
-		Result = Orientation == Orient_Horizontal
-			? FVector2D(Result.X + SlotSize.X, FMath::Max(Result.Y, SlotSize.Y))
-			: FVector2D(FMath::Max(Result.X, SlotSize.X), Result.Y + SlotSize.Y);
+		Result = Orientation == Orient_Horizontal ? FVector2D(Result.X + SlotSize.X, FMath::Max(Result.Y, SlotSize.Y))
+												  : FVector2D(FMath::Max(Result.X, SlotSize.X), Result.Y + SlotSize.Y);
 	}
 	return Result;
 }

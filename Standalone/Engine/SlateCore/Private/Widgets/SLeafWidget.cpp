@@ -6,6 +6,6 @@ FChildren* SLeafWidget::GetChildren()
 	return &FNoChildren::NoChildrenInstance;
 }
 
-void SLeafWidget::OnArrangeChildren(const FGeometry& /*AllottedGeometry*/, FArrangedChildren& /*ArrangedChildren*/) const
-{
-}
+void SLeafWidget::OnArrangeChildren(
+	const FGeometry& /*AllottedGeometry*/, FArrangedChildren& /*ArrangedChildren*/) const
+{}

@@ -15,10 +15,7 @@ namespace
 		void Construct(const FArguments& /*InArgs*/) {}
 
 	protected:
-		virtual FVector2D ComputeDesiredSize(float /*LayoutScaleMultiplier*/) const override
-		{
-			return FVector2D();
-		}
+		virtual FVector2D ComputeDesiredSize(float /*LayoutScaleMultiplier*/) const override { return FVector2D(); }
 	};
 }
 

@@ -54,8 +54,8 @@ bool SWidget::SupportsKeyboardFocus() const
 
 bool SWidget::HasKeyboardFocus() const
 {
-	return FSlateApplicationBase::IsInitialized()
-		&& FSlateApplicationBase::Get().GetKeyboardFocusedWidget().Get() == this;
+	return FSlateApplicationBase::IsInitialized() &&
+		FSlateApplicationBase::Get().GetKeyboardFocusedWidget().Get() == this;
 }
 
 void SWidget::SlatePrepass(float InLayoutScaleMultiplier)

@@ -20,10 +20,7 @@ public:
 	virtual TSharedPtr<SWidget> GetKeyboardFocusedWidget() const = 0;
 
 	/** Null until InitializeRenderer. */
-	FSlateRenderer* GetRenderer() const
-	{
-		return Renderer.Get();
-	}
+	FSlateRenderer* GetRenderer() const { return Renderer.Get(); }
 
 protected:
 	static void SetCurrent(const TSharedPtr<FSlateApplicationBase>& Application);

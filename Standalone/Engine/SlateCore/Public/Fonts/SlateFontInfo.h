@@ -28,6 +28,7 @@ struct FSlateFontInfo
 
 	bool operator==(const FSlateFontInfo& Other) const
 	{
-		return TypefaceFontName == Other.TypefaceFontName && Size == Other.Size && OutlineSettings == Other.OutlineSettings;
+		return TypefaceFontName == Other.TypefaceFontName && Size == Other.Size &&
+			OutlineSettings == Other.OutlineSettings;
 	}
 };

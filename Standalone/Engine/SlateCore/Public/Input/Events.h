@@ -23,10 +23,7 @@ struct FFocusEvent
 {
 	FFocusEvent(const EFocusCause InCause, uint32 /*InUserIndex*/) : Cause(InCause) {}
 
-	EFocusCause GetCause() const
-	{
-		return Cause;
-	}
+	EFocusCause GetCause() const { return Cause; }
 
 private:
 	EFocusCause Cause;
@@ -49,16 +46,9 @@ public:
 		const bool /*bInIsLeftCommandDown*/, const bool /*bInIsRightCommandDown*/, const bool /*bInAreCapsLocked*/)
 		: bIsShiftDown(bInIsLeftShiftDown || bInIsRightShiftDown),
 		  bIsControlDown(bInIsLeftControlDown || bInIsRightControlDown)
-	{
-	}
-	bool IsShiftDown() const
-	{
-		return bIsShiftDown;
-	}
-	bool IsControlDown() const
-	{
-		return bIsControlDown;
-	}
+	{}
+	bool IsShiftDown() const { return bIsShiftDown; }
+	bool IsControlDown() const { return bIsControlDown; }
 
 private:
 	bool bIsShiftDown = false;
@@ -70,16 +60,9 @@ struct FInputEvent
 {
 	FInputEvent(const FModifierKeysState& InModifierKeys, const uint32 /*InUserIndex*/, const bool /*bInIsRepeat*/)
 		: ModifierKeys(InModifierKeys)
-	{
-	}
-	bool IsShiftDown() const
-	{
-		return ModifierKeys.IsShiftDown();
-	}
-	bool IsControlDown() const
-	{
-		return ModifierKeys.IsControlDown();
-	}
+	{}
+	bool IsShiftDown() const { return ModifierKeys.IsShiftDown(); }
+	bool IsControlDown() const { return ModifierKeys.IsControlDown(); }
 
 private:
 	FModifierKeysState ModifierKeys;
@@ -88,15 +71,11 @@ private:
 /** A key went down or up. */
 struct FKeyEvent : public FInputEvent
 {
-	FKeyEvent(const FKey InKey, const FModifierKeysState& InModifierKeys, const uint32 InUserIndex, const bool bInIsRepeat,
-		const uint32 /*InCharacterCode*/, const uint32 /*InKeyCode*/)
+	FKeyEvent(const FKey InKey, const FModifierKeysState& InModifierKeys, const uint32 InUserIndex,
+		const bool bInIsRepeat, const uint32 /*InCharacterCode*/, const uint32 /*InKeyCode*/)
 		: FInputEvent(InModifierKeys, InUserIndex, bInIsRepeat), Key(InKey)
-	{
-	}
-	FKey GetKey() const
-	{
-		return Key;
-	}
+	{}
+	FKey GetKey() const { return Key; }
 
 private:
 	FKey Key;
@@ -105,15 +84,11 @@ private:
 /** A UTF-16 unit was typed; a character beyond the basic plane comes as two events. */
 struct FCharacterEvent : public FInputEvent
 {
-	FCharacterEvent(
-		const TCHAR InCharacter, const FModifierKeysState& InModifierKeys, const uint32 InUserIndex, const bool bInIsRepeat)
+	FCharacterEvent(const TCHAR InCharacter, const FModifierKeysState& InModifierKeys, const uint32 InUserIndex,
+		const bool bInIsRepeat)
 		: FInputEvent(InModifierKeys, InUserIndex, bInIsRepeat), Character(InCharacter)
-	{
-	}
-	TCHAR GetCharacter() const
-	{
-		return Character;
-	}
+	{}
+	TCHAR GetCharacter() const { return Character; }
 
 private:
 	TCHAR Character;
@@ -126,12 +101,8 @@ struct FPointerEvent : public FInputEvent
 		const FVector2D& /*InLastScreenSpacePosition*/, const TSet<FKey>& /*InPressedButtons*/, FKey InEffectingButton,
 		float /*InWheelDelta*/, const FModifierKeysState& InModifierKeys)
 		: FInputEvent(InModifierKeys, 0, false), EffectingButton(InEffectingButton)
-	{
-	}
-	FKey GetEffectingButton() const
-	{
-		return EffectingButton;
-	}
+	{}
+	FKey GetEffectingButton() const { return EffectingButton; }
 
 private:
 	FKey EffectingButton;

@@ -6,34 +6,23 @@
 
 class SWidget;
 
-/** A widget's answer to an input event: whether others still get to see the event, and what the application shall do for it. */
+/** A widget's answer to an input event: whether others still get to see the event, and what the application shall do
+ * for it. */
 class FReply
 {
 public:
 	/** The event ends here. */
-	static FReply Handled()
-	{
-		return FReply(true);
-	}
+	static FReply Handled() { return FReply(true); }
 	/** The parent is asked next. */
-	static FReply Unhandled()
-	{
-		return FReply(false);
-	}
+	static FReply Unhandled() { return FReply(false); }
 	/** Asks that the widget hears of the coming release of the mouse button, wherever that happens. */
 	FReply& CaptureMouse(const TSharedRef<SWidget>& InMouseCaptor)
 	{
 		MouseCaptor = InMouseCaptor;
 		return *this;
 	}
-	bool IsEventHandled() const
-	{
-		return bIsHandled;
-	}
-	const TSharedPtr<SWidget>& GetMouseCaptor() const
-	{
-		return MouseCaptor;
-	}
+	bool IsEventHandled() const { return bIsHandled; }
+	const TSharedPtr<SWidget>& GetMouseCaptor() const { return MouseCaptor; }
 
 private:
 	explicit FReply(bool bInIsHandled) : bIsHandled(bInIsHandled) {}

@@ -11,10 +11,7 @@ class FArrangedChildren
 public:
 	explicit FArrangedChildren(EVisibility InVisibilityFilter) : VisibilityFilter(InVisibilityFilter) {}
 
-	void AddWidget(const FArrangedWidget& InWidgetGeometry)
-	{
-		Array.Add(InWidgetGeometry);
-	}
+	void AddWidget(const FArrangedWidget& InWidgetGeometry) { Array.Add(InWidgetGeometry); }
 	/** Adds the widget unless its visibility fails the filter. */
 	void AddWidget(EVisibility VisibilityOverride, const FArrangedWidget& InWidgetGeometry)
 	{
@@ -27,18 +24,9 @@ public:
 	{
 		return EVisibility::DoesVisibilityPassFilter(InVisibility, VisibilityFilter);
 	}
-	int32 Num() const
-	{
-		return Array.Num();
-	}
-	const FArrangedWidget& operator[](int32 Index) const
-	{
-		return Array[Index];
-	}
-	const FArrangedWidget& Last() const
-	{
-		return Array.Last();
-	}
+	int32 Num() const { return Array.Num(); }
+	const FArrangedWidget& operator[](int32 Index) const { return Array[Index]; }
+	const FArrangedWidget& Last() const { return Array.Last(); }
 
 private:
 	EVisibility VisibilityFilter;

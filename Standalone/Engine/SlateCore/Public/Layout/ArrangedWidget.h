@@ -7,9 +7,9 @@
 class FArrangedWidget
 {
 public:
-	FArrangedWidget(const TSharedRef<SWidget>& InWidget, const FGeometry& InGeometry) : Geometry(InGeometry), Widget(InWidget)
-	{
-	}
+	FArrangedWidget(const TSharedRef<SWidget>& InWidget, const FGeometry& InGeometry)
+		: Geometry(InGeometry), Widget(InWidget)
+	{}
 
 	FGeometry Geometry;
 	TSharedRef<SWidget> Widget;

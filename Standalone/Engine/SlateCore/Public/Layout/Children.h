@@ -13,14 +13,8 @@ public:
 
 	virtual int32 Num() const = 0;
 	virtual const FSlotBase& GetSlotAt(int32 ChildIndex) const = 0;
-	TSharedRef<SWidget> GetChildAt(int32 Index)
-	{
-		return GetSlotAt(Index).GetWidget();
-	}
-	TSharedRef<const SWidget> GetChildAt(int32 Index) const
-	{
-		return GetSlotAt(Index).GetWidget();
-	}
+	TSharedRef<SWidget> GetChildAt(int32 Index) { return GetSlotAt(Index).GetWidget(); }
+	TSharedRef<const SWidget> GetChildAt(int32 Index) const { return GetSlotAt(Index).GetWidget(); }
 };
 
 /** The children of a widget that can have none. */
@@ -51,18 +45,9 @@ class TPanelChildren : public FChildren
 public:
 	explicit TPanelChildren(SWidget* InOwner) : Owner(InOwner) {}
 
-	virtual int32 Num() const override
-	{
-		return Slots.Num();
-	}
-	virtual const FSlotBase& GetSlotAt(int32 ChildIndex) const override
-	{
-		return *Slots[ChildIndex];
-	}
-	const SlotType& operator[](int32 Index) const
-	{
-		return *Slots[Index];
-	}
+	virtual int32 Num() const override { return Slots.Num(); }
+	virtual const FSlotBase& GetSlotAt(int32 ChildIndex) const override { return *Slots[ChildIndex]; }
+	const SlotType& operator[](int32 Index) const { return *Slots[Index]; }
 	/** Takes the slots over. */
 	template <typename NewSlotType>
 	void Append(const TArray<NewSlotType*>& NewSlots)

@@ -18,15 +18,9 @@ struct SLATECORE_API FGeometry
 	FArrangedWidget MakeChild(
 		const TSharedRef<SWidget>& ChildWidget, const FVector2D& ChildOffset, const FVector2D& InLocalSize) const;
 
-	const FVector2D& GetLocalSize() const
-	{
-		return Size;
-	}
+	const FVector2D& GetLocalSize() const { return Size; }
 	/** From the root's origin. */
-	const FVector2D& GetAbsolutePosition() const
-	{
-		return AbsolutePosition;
-	}
+	const FVector2D& GetAbsolutePosition() const { return AbsolutePosition; }
 
 private:
 	FVector2D AbsolutePosition;

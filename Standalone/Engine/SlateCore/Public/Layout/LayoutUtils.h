@@ -15,8 +15,8 @@ struct AlignmentArrangeResult
 };
 
 /**
- * Places a slot's child along one axis: filled, it takes everything within the padding; otherwise its desired size, or what there is.
- * Padding that is larger than the slot leaves nothing for the child.
+ * Places a slot's child along one axis: filled, it takes everything within the padding; otherwise its desired size, or
+ * what there is. Padding that is larger than the slot leaves nothing for the child.
  */
 SLATECORE_API AlignmentArrangeResult AlignChild(
 	EOrientation Orientation, float AllottedSize, const FAlignedSlot& ChildToArrange);

@@ -16,13 +16,9 @@ struct FMargin
 	FMargin(float Horizontal, float Vertical) : FMargin(Horizontal, Vertical, Horizontal, Vertical) {}
 	FMargin(float InLeft, float InTop, float InRight, float InBottom)
 		: Left(InLeft), Top(InTop), Right(InRight), Bottom(InBottom)
-	{
-	}
+	{}
 	/** What the margin adds to the size of its content. */
-	FVector2D GetDesiredSize() const
-	{
-		return FVector2D(Left + Right, Top + Bottom);
-	}
+	FVector2D GetDesiredSize() const { return FVector2D(Left + Right, Top + Bottom); }
 	bool operator==(const FMargin& Other) const
 	{
 		return Left == Other.Left && Top == Other.Top && Right == Other.Right && Bottom == Other.Bottom;

@@ -9,15 +9,9 @@ class FWidgetPath
 public:
 	FWidgetPath() : Widgets(EVisibility::Visible) {}
 
-	bool IsValid() const
-	{
-		return Widgets.Num() > 0;
-	}
+	bool IsValid() const { return Widgets.Num() > 0; }
 	/** The one that the path leads to; fatal when the path is not valid. */
-	const TSharedRef<SWidget>& GetLastWidget() const
-	{
-		return Widgets.Last().Widget;
-	}
+	const TSharedRef<SWidget>& GetLastWidget() const { return Widgets.Last().Widget; }
 
 	FArrangedChildren Widgets;
 };

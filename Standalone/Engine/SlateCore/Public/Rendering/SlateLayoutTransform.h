@@ -9,10 +9,7 @@ class FSlateLayoutTransform
 public:
 	explicit FSlateLayoutTransform(const FVector2D& InTranslation = FVector2D()) : Translation(InTranslation) {}
 
-	const FVector2D& GetTranslation() const
-	{
-		return Translation;
-	}
+	const FVector2D& GetTranslation() const { return Translation; }
 
 private:
 	FVector2D Translation;

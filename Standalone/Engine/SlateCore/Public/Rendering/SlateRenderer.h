@@ -14,10 +14,7 @@ public:
 	/** Reads all images of all style sets anew. */
 	virtual void ReloadTextureResources() {}
 
-	TSharedRef<FSlateFontMeasure> GetFontMeasureService() const
-	{
-		return FontMeasure;
-	}
+	TSharedRef<FSlateFontMeasure> GetFontMeasureService() const { return FontMeasure; }
 
 private:
 	TSharedRef<FSlateFontMeasure> FontMeasure;

@@ -4,8 +4,8 @@
 #include "Fonts/FontMeasure.h"
 
 /**
- * Measures text by a table of Roboto's advance widths, so that no font file is needed and every machine gets the same layout.
- * Kerning and ligatures are left out; outlines add nothing.
+ * Measures text by a table of Roboto's advance widths, so that no font file is needed and every machine gets the same
+ * layout. Kerning and ligatures are left out; outlines add nothing.
  */
 class SLATECORE_API FRobotoFontMeasure : public FSlateFontMeasure
 {

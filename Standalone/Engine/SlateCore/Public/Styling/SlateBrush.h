@@ -58,10 +58,7 @@ struct SLATECORE_API FSlateBrush
 	virtual ~FSlateBrush() = default;
 
 	/** The image's file, or none. */
-	FName GetResourceName() const
-	{
-		return ResourceName;
-	}
+	FName GetResourceName() const { return ResourceName; }
 
 	FVector2D ImageSize = FVector2D(32.0f, 32.0f);
 	FMargin Margin;

@@ -10,19 +10,10 @@ struct FSlateColor
 	FSlateColor(const FLinearColor& InColor) : SpecifiedColor(InColor), bIsSpecified(true) {}
 
 	/** The surroundings' foreground colour. */
-	static FSlateColor UseForeground()
-	{
-		return FSlateColor();
-	}
-	bool IsColorSpecified() const
-	{
-		return bIsSpecified;
-	}
+	static FSlateColor UseForeground() { return FSlateColor(); }
+	bool IsColorSpecified() const { return bIsSpecified; }
 	/** Meaningful only when specified. */
-	FLinearColor GetSpecifiedColor() const
-	{
-		return SpecifiedColor;
-	}
+	FLinearColor GetSpecifiedColor() const { return SpecifiedColor; }
 	bool operator==(const FSlateColor& Other) const
 	{
 		return bIsSpecified == Other.bIsSpecified && (!bIsSpecified || SpecifiedColor == Other.SpecifiedColor);

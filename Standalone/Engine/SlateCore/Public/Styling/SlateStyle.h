@@ -7,18 +7,15 @@
 #include "Templates/UniquePtr.h"
 
 /**
- * A style set that is filled at run time. Its brushes live as long as the set itself, also one that was replaced under its key,
- * since widgets hold plain pointers to them.
+ * A style set that is filled at run time. Its brushes live as long as the set itself, also one that was replaced under
+ * its key, since widgets hold plain pointers to them.
  */
 class SLATECORE_API FSlateStyleSet : public ISlateStyle
 {
 public:
 	explicit FSlateStyleSet(const FName& InStyleSetName) : StyleSetName(InStyleSetName) {}
 
-	virtual const FName& GetStyleSetName() const override
-	{
-		return StyleSetName;
-	}
+	virtual const FName& GetStyleSetName() const override { return StyleSetName; }
 	virtual const FSlateBrush* GetBrush(const FName PropertyName, const ANSICHAR* Specifier = nullptr) const override;
 	virtual const FSlateBrush* GetOptionalBrush(const FName PropertyName, const ANSICHAR* Specifier = nullptr,
 		const FSlateBrush* const DefaultBrush = FStyleDefaults::GetNoBrush()) const override;

@@ -12,18 +12,9 @@ struct SLATECORE_API FSlateIcon
 	FSlateIcon();
 	FSlateIcon(const FName& InStyleSetName, const FName& InStyleName);
 
-	bool IsSet() const
-	{
-		return bIsSet;
-	}
-	const FName& GetStyleSetName() const
-	{
-		return StyleSetName;
-	}
-	const FName& GetStyleName() const
-	{
-		return StyleName;
-	}
+	bool IsSet() const { return bIsSet; }
+	const FName& GetStyleSetName() const { return StyleSetName; }
+	const FName& GetStyleName() const { return StyleName; }
 	/** The brush, the default brush for a key that the set lacks, or the brush that draws nothing. Never null. */
 	const FSlateBrush* GetIcon() const;
 

@@ -9,15 +9,9 @@ struct FOptionalSize
 	FOptionalSize() = default;
 	FOptionalSize(const float SpecifiedSize) : Size(SpecifiedSize), bIsSet(true) {}
 
-	bool IsSet() const
-	{
-		return bIsSet;
-	}
+	bool IsSet() const { return bIsSet; }
 	/** Meaningful only when set. */
-	float Get() const
-	{
-		return Size;
-	}
+	float Get() const { return Size; }
 
 private:
 	float Size = 0.0f;
@@ -43,17 +37,11 @@ struct FSizeParam
 /** The size rule of a slot that takes its child's desired size. */
 struct FAuto : public FSizeParam
 {
-	FAuto()
-	{
-		SizeRule = SizeRule_Auto;
-	}
+	FAuto() { SizeRule = SizeRule_Auto; }
 };
 
 /** The size rule of a slot that shares the rest. */
 struct FStretch : public FSizeParam
 {
-	FStretch(const TAttribute<float>& InWeight)
-	{
-		Value = InWeight;
-	}
+	FStretch(const TAttribute<float>& InWeight) { Value = InWeight; }
 };

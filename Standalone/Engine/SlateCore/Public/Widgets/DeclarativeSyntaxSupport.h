@@ -24,7 +24,8 @@
 #define SNew(WidgetType) MakeTDecl<WidgetType>(#WidgetType) <<= WidgetType::FArguments()
 
 /** SNew that also assigns the widget to a variable, before the widget's Construct runs. */
-#define SAssignNew(ExposeAs, WidgetType) MakeTDecl<WidgetType>(#WidgetType).Expose(ExposeAs) <<= WidgetType::FArguments()
+#define SAssignNew(ExposeAs, WidgetType) \
+	MakeTDecl<WidgetType>(#WidgetType).Expose(ExposeAs) <<= WidgetType::FArguments()
 
 /** Opens a widget's arguments; the constructor's body, and before it the arguments' defaults, follow. */
 #define SLATE_BEGIN_ARGS(InWidgetType) \
@@ -59,19 +60,22 @@ public: \
 	template <typename UserClass, typename BaseClass, typename... Args, typename... VarTypes> \
 	WidgetArgsType& AttrName(UserClass* Object, AttrType (BaseClass::*Method)(Args...) const, VarTypes... Vars) \
 	{ \
-		return AttrName(TAttribute<AttrType>::Create(TAttribute<AttrType>::FGetter::CreateSP(Object, Method, Vars...))); \
+		return AttrName( \
+			TAttribute<AttrType>::Create(TAttribute<AttrType>::FGetter::CreateSP(Object, Method, Vars...))); \
 	} \
 	template <typename UserClass, typename BaseClass, typename... Args, typename... VarTypes> \
 	WidgetArgsType& AttrName( \
 		const TSharedRef<UserClass>& Object, AttrType (BaseClass::*Method)(Args...) const, VarTypes... Vars) \
 	{ \
-		return AttrName(TAttribute<AttrType>::Create(TAttribute<AttrType>::FGetter::CreateSP(Object, Method, Vars...))); \
+		return AttrName( \
+			TAttribute<AttrType>::Create(TAttribute<AttrType>::FGetter::CreateSP(Object, Method, Vars...))); \
 	} \
 	template <typename UserClass, typename BaseClass, typename... Args, typename... VarTypes> \
 	WidgetArgsType& AttrName##_Raw( \
 		const UserClass* Object, AttrType (BaseClass::*Method)(Args...) const, VarTypes... Vars) \
 	{ \
-		return AttrName(TAttribute<AttrType>::Create(TAttribute<AttrType>::FGetter::CreateRaw(Object, Method, Vars...))); \
+		return AttrName( \
+			TAttribute<AttrType>::Create(TAttribute<AttrType>::FGetter::CreateRaw(Object, Method, Vars...))); \
 	} \
 	template <typename... Args, typename... VarTypes> \
 	WidgetArgsType& AttrName##_Static(AttrType (*Function)(Args...), VarTypes... Vars) \
@@ -143,10 +147,7 @@ struct TSlateBaseNamedArgs
 	typedef InWidgetArgsType WidgetArgsType;
 
 	TSlateBaseNamedArgs() : _IsEnabled(true), _Visibility(EVisibility::Visible) {}
-	WidgetArgsType& Me()
-	{
-		return static_cast<WidgetArgsType&>(*this);
-	}
+	WidgetArgsType& Me() { return static_cast<WidgetArgsType&>(*this); }
 	SLATE_ATTRIBUTE(bool, IsEnabled)
 	SLATE_ATTRIBUTE(EVisibility, Visibility)
 };

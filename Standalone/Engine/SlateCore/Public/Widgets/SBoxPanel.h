@@ -6,9 +6,9 @@
 #include "Widgets/SPanel.h"
 
 /**
- * Children one after the other. Auto slots take what their child wants, stretched ones (the default) share the rest by their
- * weights; paddings come first. When there is not enough room, stretched slots get nothing and auto ones reach beyond the end.
- * A child of a horizontal box is measured as if it could have the box's whole width.
+ * Children one after the other. Auto slots take what their child wants, stretched ones (the default) share the rest by
+ * their weights; paddings come first. When there is not enough room, stretched slots get nothing and auto ones reach
+ * beyond the end. A child of a horizontal box is measured as if it could have the box's whole width.
  */
 class SLATECORE_API SBoxPanel : public SPanel
 {
@@ -25,15 +25,13 @@ public:
 protected:
 	explicit SBoxPanel(EOrientation InOrientation) : Orientation(InOrientation) {}
 	virtual FVector2D ComputeDesiredSize(float LayoutScaleMultiplier) const override;
-	virtual void OnArrangeChildren(const FGeometry& AllottedGeometry, FArrangedChildren& ArrangedChildren) const override;
+	virtual void OnArrangeChildren(
+		const FGeometry& AllottedGeometry, FArrangedChildren& ArrangedChildren) const override;
 
 	TPanelChildren<FSlot> Children{this};
 
 private:
-	float Along(const FVector2D& Size) const
-	{
-		return Orientation == Orient_Horizontal ? Size.X : Size.Y;
-	}
+	float Along(const FVector2D& Size) const { return Orientation == Orient_Horizontal ? Size.X : Size.Y; }
 	/** What each unit of stretched slots' weight gets along the panel. */
 	float ComputeStretchUnit(float AllottedLength) const;
 
@@ -60,19 +58,13 @@ public:
 	};
 
 	SLATE_BEGIN_ARGS(SHorizontalBox) {}
-		SLATE_SUPPORTS_SLOT(FSlot)
+	SLATE_SUPPORTS_SLOT(FSlot)
 	SLATE_END_ARGS()
 
 	SHorizontalBox() : SBoxPanel(Orient_Horizontal) {}
-	void Construct(const FArguments& InArgs)
-	{
-		Children.Append(InArgs.Slots);
-	}
+	void Construct(const FArguments& InArgs) { Children.Append(InArgs.Slots); }
 	/** A new slot, for + to take over. */
-	static FSlot& Slot()
-	{
-		return *new FSlot();
-	}
+	static FSlot& Slot() { return *new FSlot(); }
 };
 
 /** A column. */
@@ -95,17 +87,11 @@ public:
 	};
 
 	SLATE_BEGIN_ARGS(SVerticalBox) {}
-		SLATE_SUPPORTS_SLOT(FSlot)
+	SLATE_SUPPORTS_SLOT(FSlot)
 	SLATE_END_ARGS()
 
 	SVerticalBox() : SBoxPanel(Orient_Vertical) {}
-	void Construct(const FArguments& InArgs)
-	{
-		Children.Append(InArgs.Slots);
-	}
+	void Construct(const FArguments& InArgs) { Children.Append(InArgs.Slots); }
 	/** A new slot, for + to take over. */
-	static FSlot& Slot()
-	{
-		return *new FSlot();
-	}
+	static FSlot& Slot() { return *new FSlot(); }
 };

@@ -11,7 +11,8 @@ public:
 
 protected:
 	virtual FVector2D ComputeDesiredSize(float LayoutScaleMultiplier) const override;
-	virtual void OnArrangeChildren(const FGeometry& AllottedGeometry, FArrangedChildren& ArrangedChildren) const override;
+	virtual void OnArrangeChildren(
+		const FGeometry& AllottedGeometry, FArrangedChildren& ArrangedChildren) const override;
 	virtual float ComputeChildWidthCap(int32 ChildIndex, float OwnWidthCap) const override;
 
 	FSimpleSlot ChildSlot{*this};

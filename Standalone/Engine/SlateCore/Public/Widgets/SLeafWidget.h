@@ -10,5 +10,6 @@ public:
 	virtual FChildren* GetChildren() override;
 
 protected:
-	virtual void OnArrangeChildren(const FGeometry& AllottedGeometry, FArrangedChildren& ArrangedChildren) const override;
+	virtual void OnArrangeChildren(
+		const FGeometry& AllottedGeometry, FArrangedChildren& ArrangedChildren) const override;
 };

@@ -10,27 +10,21 @@ class SLATECORE_API SOverlay : public SPanel
 public:
 	/** A layer. */
 	class FOverlaySlot : public TAlignedSlot<FOverlaySlot>
-	{
-	};
+	{};
 
 	SLATE_BEGIN_ARGS(SOverlay) {}
-		SLATE_SUPPORTS_SLOT(FOverlaySlot)
+	SLATE_SUPPORTS_SLOT(FOverlaySlot)
 	SLATE_END_ARGS()
 
-	void Construct(const FArguments& InArgs)
-	{
-		Children.Append(InArgs.Slots);
-	}
+	void Construct(const FArguments& InArgs) { Children.Append(InArgs.Slots); }
 	/** A new slot, for + to take over. */
-	static FOverlaySlot& Slot()
-	{
-		return *new FOverlaySlot();
-	}
+	static FOverlaySlot& Slot() { return *new FOverlaySlot(); }
 	virtual FChildren* GetChildren() override;
 
 protected:
 	virtual FVector2D ComputeDesiredSize(float LayoutScaleMultiplier) const override;
-	virtual void OnArrangeChildren(const FGeometry& AllottedGeometry, FArrangedChildren& ArrangedChildren) const override;
+	virtual void OnArrangeChildren(
+		const FGeometry& AllottedGeometry, FArrangedChildren& ArrangedChildren) const override;
 
 private:
 	TPanelChildren<FOverlaySlot> Children{this};

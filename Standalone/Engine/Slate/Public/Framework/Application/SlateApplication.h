@@ -14,11 +14,12 @@ enum class ESlateTickType : uint8
 };
 
 /**
- * The application holds the keyboard focus and brings input to the widgets. Any widget without parent is a root here and is laid
- * out in its desired size; open tabs are such roots.
+ * The application holds the keyboard focus and brings input to the widgets. Any widget without parent is a root here
+ * and is laid out in its desired size; open tabs are such roots.
  *
- * Events go to the lowest widget first and from there up until one handles them. A widget that is not shown, or is disabled, or
- * stands within one that is, gets none and has no focus: what becomes so loses the focus before the next event or tick.
+ * Events go to the lowest widget first and from there up until one handles them. A widget that is not shown, or is
+ * disabled, or stands within one that is, gets none and has no focus: what becomes so loses the focus before the next
+ * event or tick.
  */
 class SLATE_API FSlateApplication : public FSlateApplicationBase
 {
@@ -41,7 +42,8 @@ public:
 
 	/** To the focused widget. @return whether one handled it. */
 	bool ProcessKeyCharEvent(const FCharacterEvent& InCharacterEvent);
-	/** As above; the tab key, if nobody handles it, moves the focus on in the order of the tree, with shift backwards. */
+	/** As above; the tab key, if nobody handles it, moves the focus on in the order of the tree, with shift backwards.
+	 */
 	bool ProcessKeyDownEvent(const FKeyEvent& InKeyEvent);
 	bool ProcessKeyUpEvent(const FKeyEvent& InKeyEvent);
 
@@ -49,7 +51,8 @@ public:
 	bool GeneratePathToWidgetUnchecked(const TSharedRef<const SWidget>& InWidget, FWidgetPath& OutWidgetPath,
 		EVisibility VisibilityFilter = EVisibility::Visible) const;
 
-	/** After the widgets had the event, the focus moves to the lowest widget of the path that takes it, or away from all. */
+	/** After the widgets had the event, the focus moves to the lowest widget of the path that takes it, or away from
+	 * all. */
 	FReply RoutePointerDownEvent(const FWidgetPath& WidgetsUnderPointer, const FPointerEvent& PointerEvent);
 	FReply RoutePointerUpEvent(const FWidgetPath& WidgetsUnderPointer, const FPointerEvent& PointerEvent);
 

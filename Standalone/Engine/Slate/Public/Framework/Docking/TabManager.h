@@ -18,10 +18,7 @@ struct FTabId
 	FTabId(const FName InTabType) : TabType(InTabType) {}
 	FTabId(const FName InTabType, int32 InInstanceId) : TabType(InTabType), InstanceId(InInstanceId) {}
 
-	bool operator==(const FTabId& Other) const
-	{
-		return TabType == Other.TabType && InstanceId == Other.InstanceId;
-	}
+	bool operator==(const FTabId& Other) const { return TabType == Other.TabType && InstanceId == Other.InstanceId; }
 
 	FName TabType;
 	int32 InstanceId = INDEX_NONE;
@@ -33,25 +30,23 @@ class FSpawnTabArgs
 public:
 	FSpawnTabArgs(const TSharedPtr<SWindow>& /*InOwnerWindow*/, const FTabId& InTabId) : TabId(InTabId) {}
 
-	const FTabId& GetTabId() const
-	{
-		return TabId;
-	}
+	const FTabId& GetTabId() const { return TabId; }
 
 private:
 	FTabId TabId;
 };
 
+// clang-format off
 DECLARE_DELEGATE_RetVal_OneParam(TSharedRef<SDockTab>, FOnSpawnTab, const FSpawnTabArgs&)
 DECLARE_DELEGATE_RetVal_OneParam(bool, FCanSpawnTab, const FSpawnTabArgs&)
+	// clang-format on
 
-/** How a type of tabs is made, and how it is shown to the user. The setters can be chained. */
-struct FTabSpawnerEntry
+	/** How a type of tabs is made, and how it is shown to the user. The setters can be chained. */
+	struct FTabSpawnerEntry
 {
 	FTabSpawnerEntry(const FName& InTabType, const FOnSpawnTab& InSpawnTabMethod, const FCanSpawnTab& InCanSpawnTab)
 		: TabType(InTabType), OnSpawnTab(InSpawnTabMethod), CanSpawnTab(InCanSpawnTab)
-	{
-	}
+	{}
 	FTabSpawnerEntry& SetDisplayName(const FText& InLabel)
 	{
 		DisplayName = InLabel;
@@ -74,22 +69,10 @@ struct FTabSpawnerEntry
 		return *this;
 	}
 	/** The tab type's name when no other was set. */
-	FText GetDisplayName() const
-	{
-		return DisplayName.IsEmpty() ? FText::FromString(TabType.ToString()) : DisplayName;
-	}
-	const FText& GetTooltipText() const
-	{
-		return TooltipText;
-	}
-	const FSlateIcon& GetIcon() const
-	{
-		return Icon;
-	}
-	bool ShouldAutoGenerateMenuEntry() const
-	{
-		return bAutoGenerateMenuEntry;
-	}
+	FText GetDisplayName() const { return DisplayName.IsEmpty() ? FText::FromString(TabType.ToString()) : DisplayName; }
+	const FText& GetTooltipText() const { return TooltipText; }
+	const FSlateIcon& GetIcon() const { return Icon; }
+	bool ShouldAutoGenerateMenuEntry() const { return bAutoGenerateMenuEntry; }
 
 private:
 	friend class FGlobalTabmanager;
@@ -104,8 +87,8 @@ private:
 };
 
 /**
- * The tabs of the whole editor. An open tab outlives the unregistering of its spawner. A closed tab is kept by nobody here, and
- * neither is what was in it.
+ * The tabs of the whole editor. An open tab outlives the unregistering of its spawner. A closed tab is kept by nobody
+ * here, and neither is what was in it.
  */
 class SLATE_API FGlobalTabmanager
 {
@@ -127,7 +110,8 @@ public:
 	bool HasTabSpawner(FName TabId) const;
 
 	/**
-	 * Brings the tab to the front, opening it first when it is not open. As inactive, it is opened behind the tab in front.
+	 * Brings the tab to the front, opening it first when it is not open. As inactive, it is opened behind the tab in
+	 * front.
 	 * @return the tab, or null when nobody can spawn it.
 	 */
 	TSharedPtr<SDockTab> TryInvokeTab(const FTabId& TabId, bool bInvokeAsInactive = false);
@@ -135,10 +119,7 @@ public:
 	TSharedPtr<SDockTab> FindExistingLiveTab(const FTabId& TabId) const;
 
 	/** The open tabs in opening order. The real engine has no such list. */
-	const TArray<FOpenTab>& GetOpenTabs() const
-	{
-		return OpenTabs;
-	}
+	const TArray<FOpenTab>& GetOpenTabs() const { return OpenTabs; }
 	/** The tab that is seen, or null. The real engine tells it for each tab stack on its own. */
 	TSharedPtr<SDockTab> GetForegroundTab() const;
 

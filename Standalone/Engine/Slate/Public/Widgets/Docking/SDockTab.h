@@ -16,30 +16,24 @@ enum ETabRole
 };
 
 /**
- * A tab and its content, made by a tab spawner. It is laid out in 420 × 800 slate units. Its label, tooltip and icon are its
- * spawner's (FGlobalTabmanager::GetOpenTabs). Once closed it is collapsed, for whoever still holds it.
+ * A tab and its content, made by a tab spawner. It is laid out in 420 × 800 slate units. Its label, tooltip and icon
+ * are its spawner's (FGlobalTabmanager::GetOpenTabs). Once closed it is collapsed, for whoever still holds it.
  */
 class SLATE_API SDockTab : public SCompoundWidget
 {
 public:
 	SLATE_BEGIN_ARGS(SDockTab) : _TabRole(ETabRole::PanelTab) {}
-		SLATE_DEFAULT_SLOT(FArguments, Content)
-		SLATE_ARGUMENT(ETabRole, TabRole)
+	SLATE_DEFAULT_SLOT(FArguments, Content)
+	SLATE_ARGUMENT(ETabRole, TabRole)
 	SLATE_END_ARGS()
 
 	void Construct(const FArguments& InArgs);
 
-	ETabRole GetTabRole() const
-	{
-		return TabRole;
-	}
+	ETabRole GetTabRole() const { return TabRole; }
 	void SetContent(TSharedRef<SWidget> InContent);
 	TSharedRef<SWidget> GetContent();
 	/** What it was opened as; empty before. */
-	const FTabId& GetLayoutIdentifier() const
-	{
-		return LayoutIdentifier;
-	}
+	const FTabId& GetLayoutIdentifier() const { return LayoutIdentifier; }
 	/** Closes it at once. @return true; nothing can object here. */
 	bool RequestCloseTab();
 	/** Open, and the one of the open tabs that is seen. */

@@ -6,15 +6,15 @@
 #include "Widgets/SCompoundWidget.h"
 
 /**
- * A button around any content. It clicks when the left mouse button goes down and up on it, or Enter or the space bar does while
- * it has the focus. Going down elsewhere, or the release elsewhere, is no click.
+ * A button around any content. It clicks when the left mouse button goes down and up on it, or Enter or the space bar
+ * does while it has the focus. Going down elsewhere, or the release elsewhere, is no click.
  */
 class SLATE_API SButton : public SCompoundWidget
 {
 public:
 	SLATE_BEGIN_ARGS(SButton) {}
-		SLATE_DEFAULT_SLOT(FArguments, Content)
-		SLATE_EVENT(FOnClicked, OnClicked)
+	SLATE_DEFAULT_SLOT(FArguments, Content)
+	SLATE_EVENT(FOnClicked, OnClicked)
 	SLATE_END_ARGS()
 
 	void Construct(const FArguments& InArgs);

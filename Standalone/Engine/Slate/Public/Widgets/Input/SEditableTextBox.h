@@ -8,33 +8,30 @@
 #include "Widgets/SLeafWidget.h"
 
 /**
- * A line of text to type into. The caret stands at the end, or everything is selected; what is typed or pasted replaces the
- * selection. Line breaks are left out of pasted text, other control characters are not typed. It commits on Enter, and whenever
- * it loses the focus, whether anything was typed or not; Enter is one commit although it gives up the focus too. SetText raises
- * no event.
+ * A line of text to type into. The caret stands at the end, or everything is selected; what is typed or pasted replaces
+ * the selection. Line breaks are left out of pasted text, other control characters are not typed. It commits on Enter,
+ * and whenever it loses the focus, whether anything was typed or not; Enter is one commit although it gives up the
+ * focus too. SetText raises no event.
  */
 class SLATE_API SEditableTextBox : public SLeafWidget
 {
 public:
 	SLATE_BEGIN_ARGS(SEditableTextBox) : _ClearKeyboardFocusOnCommit(true) {}
-		SLATE_ATTRIBUTE(FText, Text)
-		/** By default the engine's regular font at size 9. */
-		SLATE_ATTRIBUTE(FSlateFontInfo, Font)
-		/** Of the text, without the frame around it. */
-		SLATE_ATTRIBUTE(float, MinDesiredWidth)
-		/** Whether Enter gives up the focus. */
-		SLATE_ATTRIBUTE(bool, ClearKeyboardFocusOnCommit)
-		/** After every edit that changed the text; a paste is one edit, so is a character of two UTF-16 units. */
-		SLATE_EVENT(FOnTextChanged, OnTextChanged)
-		SLATE_EVENT(FOnTextCommitted, OnTextCommitted)
+	SLATE_ATTRIBUTE(FText, Text)
+	/** By default the engine's regular font at size 9. */
+	SLATE_ATTRIBUTE(FSlateFontInfo, Font)
+	/** Of the text, without the frame around it. */
+	SLATE_ATTRIBUTE(float, MinDesiredWidth)
+	/** Whether Enter gives up the focus. */
+	SLATE_ATTRIBUTE(bool, ClearKeyboardFocusOnCommit)
+	/** After every edit that changed the text; a paste is one edit, so is a character of two UTF-16 units. */
+	SLATE_EVENT(FOnTextChanged, OnTextChanged)
+	SLATE_EVENT(FOnTextCommitted, OnTextCommitted)
 	SLATE_END_ARGS()
 
 	void Construct(const FArguments& InArgs);
 
-	const FText& GetText() const
-	{
-		return Text;
-	}
+	const FText& GetText() const { return Text; }
 	/** Takes over the attribute's present value. */
 	void SetText(const TAttribute<FText>& InNewText);
 	void SelectAllText();

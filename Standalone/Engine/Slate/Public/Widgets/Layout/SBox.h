@@ -10,11 +10,11 @@ class SLATE_API SBox : public SCompoundWidget
 {
 public:
 	SLATE_BEGIN_ARGS(SBox) {}
-		SLATE_DEFAULT_SLOT(FArguments, Content)
-		/** The desired width, whatever the content wants and the maximum says. */
-		SLATE_ATTRIBUTE(FOptionalSize, WidthOverride)
-		SLATE_ATTRIBUTE(FOptionalSize, HeightOverride)
-		SLATE_ATTRIBUTE(FOptionalSize, MaxDesiredWidth)
+	SLATE_DEFAULT_SLOT(FArguments, Content)
+	/** The desired width, whatever the content wants and the maximum says. */
+	SLATE_ATTRIBUTE(FOptionalSize, WidthOverride)
+	SLATE_ATTRIBUTE(FOptionalSize, HeightOverride)
+	SLATE_ATTRIBUTE(FOptionalSize, MaxDesiredWidth)
 	SLATE_END_ARGS()
 
 	void Construct(const FArguments& InArgs);
