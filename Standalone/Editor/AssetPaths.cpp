@@ -6,7 +6,7 @@ namespace
 	bool IsForbidden(TCHAR Char)
 	{
 		return Char <= TEXT(' ') || (Char >= 0x7F && Char < 0xA0) ||
-			   FString(TEXT("\"',\\:*?<>|.&!~@#(){}[]=;^%$`")).Contains(FString(1, &Char), ESearchCase::CaseSensitive);
+			FString(TEXT("\"',\\:*?<>|.&!~@#(){}[]=;^%$`")).Contains(FString(1, &Char), ESearchCase::CaseSensitive);
 	}
 }
 

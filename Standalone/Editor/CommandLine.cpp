@@ -46,8 +46,8 @@ namespace
 	FArguments::FArguments()
 	{
 		App.set_version_flag("--version", "quillon-editor " QUILLON_VERSION);
-		CreateCommand = App.add_subcommand(
-			"create", "Makes a streaming setup from one stream name: a render target, an aimed camera and a sender entry");
+		CreateCommand = App.add_subcommand("create",
+			"Makes a streaming setup from one stream name: a render target, an aimed camera and a sender entry");
 		CreateCommand->add_option("NAME", Create.Name, "the stream name (put -- before a name that starts with -)")
 			->required();
 		CreateCommand->add_option("--level", Create.LevelFile, "level to open first (default: an empty one)")

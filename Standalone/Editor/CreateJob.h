@@ -15,8 +15,8 @@ class FStandaloneEditor;
 class UObject;
 
 /**
- * Makes a streaming setup through the wizard, as a user does, and finds out what was made by comparing the level before and
- * after. The plugin's types are known by their reflected names only.
+ * Makes a streaming setup through the wizard, as a user does, and finds out what was made by comparing the level before
+ * and after. The plugin's types are known by their reflected names only.
  */
 class FCreateJob
 {
@@ -24,8 +24,8 @@ public:
 	explicit FCreateJob(FStandaloneEditor& InEditor) : Editor(InEditor) {}
 
 	/**
-	 * @return false if there is no wizard to fill in or its box does not take the name; OutError is then one line. A name that
-	 *         the wizard refuses is no error: the report then says why and has no setup.
+	 * @return false if there is no wizard to fill in or its box does not take the name; OutError is then one line. A
+	 * name that the wizard refuses is no error: the report then says why and has no setup.
 	 */
 	bool Run(const FString& Name, FCreateReport& OutReport, std::string& OutError);
 

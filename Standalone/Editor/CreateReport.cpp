@@ -50,20 +50,20 @@ namespace
 		const auto& [X, Y, Z] = Camera.Location;
 		const auto& [Pitch, Yaw, Roll] = Camera.Rotation;
 		return Camera.Name + " at " + Number(X) + ", " + Number(Y) + ", " + Number(Z) + ", pitch " + Number(Pitch) +
-			   ", yaw " + Number(Yaw) + ", roll " + Number(Roll);
+			", yaw " + Number(Yaw) + ", roll " + Number(Roll);
 	}
 
 	std::string ManagerText(const FCreateReport::FManager& Manager)
 	{
 		return Manager.Name + (Manager.bSpawned ? " (new, " : " (already there, ") + std::to_string(Manager.Entries) +
-			   (Manager.Entries == 1 ? " entry)" : " entries)");
+			(Manager.Entries == 1 ? " entry)" : " entries)");
 	}
 
 	std::string SetupText(const FCreateReport::FSetup& Setup)
 	{
 		return Line("Render target", Setup.Asset) + Line("Camera", CameraText(Setup.Camera)) +
-			   Line("Sender manager", ManagerText(Setup.Manager)) + Line("Sender", Setup.Sender.Name) +
-			   Line("  stand-alone", Setup.Sender.StandaloneName);
+			Line("Sender manager", ManagerText(Setup.Manager)) + Line("Sender", Setup.Sender.Name) +
+			Line("  stand-alone", Setup.Sender.StandaloneName);
 	}
 }
 

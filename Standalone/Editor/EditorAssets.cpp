@@ -28,8 +28,8 @@ FString FEditorAssets::GetPath(const UObject* Asset)
 UObject* FEditorAssets::Make(FName Path, UClass* Class)
 {
 	UPackage* Package = CreatePackage(*Path.ToString());
-	UObject* Asset =
-		NewObject<UObject>(Package, Class, FAssetPaths::GetAssetName(Path), RF_Public | RF_Standalone | RF_Transactional);
+	UObject* Asset = NewObject<UObject>(
+		Package, Class, FAssetPaths::GetAssetName(Path), RF_Public | RF_Standalone | RF_Transactional);
 	IAssetRegistry::Get()->AssetCreated(Asset);
 	return Asset;
 }

@@ -5,7 +5,8 @@
 #include <string_view>
 
 /**
- * The wording of errors about files: always one line, `file: place: reason`, whatever stands in the file or in its name.
+ * The wording of errors about files: always one line, `file: place: reason`, whatever stands in the file or in its
+ * name.
  */
 class FErrorText
 {

@@ -23,10 +23,7 @@ namespace
 		explicit FDescriptor(int InHandle) : Handle(InHandle) {}
 		FDescriptor(const FDescriptor&) = delete;
 		FDescriptor& operator=(const FDescriptor&) = delete;
-		~FDescriptor()
-		{
-			Close();
-		}
+		~FDescriptor() { Close(); }
 
 		int Get() const { return Handle; }
 		bool IsOpen() const { return Handle >= 0; }
@@ -93,7 +90,8 @@ namespace
 	/** The access rights that a newly created file gets, or those of the file that is replaced. */
 	mode_t ModeFor(const std::string& Path)
 	{
-		struct stat Info{};
+		struct stat Info
+		{};
 		if (::stat(Path.c_str(), &Info) == 0)
 		{
 			return Info.st_mode & 07777U;
@@ -114,7 +112,8 @@ namespace
 	/** @return false if something stands at Path that must not be replaced. */
 	bool MayReplace(const std::string& Path, std::string& OutError)
 	{
-		struct stat Info{};
+		struct stat Info
+		{};
 		if (::stat(Path.c_str(), &Info) != 0)
 		{
 			// A missing file is fine; anything else (a file where a folder should be, no right to look) is not.
@@ -130,7 +129,7 @@ namespace
 	bool FillTemporary(FDescriptor& File, const std::string& Target, const std::string& Bytes)
 	{
 		return WriteAll(File.Get(), Bytes) && ::fchmod(File.Get(), ModeFor(Target)) == 0 && ::fsync(File.Get()) == 0 &&
-			   File.Close();
+			File.Close();
 	}
 
 	/** Makes the rename itself durable. A file system that cannot do this has still replaced the file, so no error. */
@@ -149,7 +148,8 @@ bool FFileAccess::Read(const std::string& Path, size_t MaxSize, std::string& Out
 	OutBytes.clear();
 	// Without O_NONBLOCK a named pipe would wait for a writer before it can be refused.
 	const FDescriptor File(::open(Path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-	struct stat Info{};
+	struct stat Info
+	{};
 	if (!File.IsOpen() || ::fstat(File.Get(), &Info) != 0)
 	{
 		return FailWithErrno(Path, OutError);

@@ -6,8 +6,8 @@
 #include "CoreMinimal.h"
 
 /**
- * Single values of a level file as the engine's types. Each function returns null on success, else the reason why the value
- * is refused, in which case the out parameter is unchanged.
+ * Single values of a level file as the engine's types. Each function returns null on success, else the reason why the
+ * value is refused, in which case the out parameter is unchanged.
  */
 class FJsonScalars
 {

@@ -8,6 +8,7 @@
 
 #include "AssetPaths.h"
 #include "EngineText.h"
+#include "GameFramework/Actor.h"
 #include "JsonScalars.h"
 #include "LevelProperties.h"
 #include "PropertyReader.h"
@@ -39,17 +40,20 @@ namespace
 		bool ReadAsset(const json& Json, const FPlace& Place);
 		bool ReadActor(const json& Json, const FPlace& Place);
 		bool ReadActorName(const json& Json, const FPlace& Place, FName& OutName);
+		/** A place that the actor could not keep is refused rather than forgotten. */
+		bool CheckPlace(const FLevelPlan::FActor& Actor);
 		bool CheckProperties(const FLevelPlan::FActor& Actor);
 
 		bool CheckKeys(const json& Json, const FPlace& Place, std::initializer_list<FKey> Keys);
 		/** Calls Read for each element of the array under Key, if there is one. */
 		bool ReadEach(const json& Json, const char* Key, bool (FPlanReader::*Read)(const json&, const FPlace&));
 		/** Reads three numbers under Key; they stay as they are if the key is absent. */
-		bool ReadTriple(const json& Json, const FPlace& Place, const char* Key, float& First, float& Second, float& Third);
+		bool ReadTriple(
+			const json& Json, const FPlace& Place, const char* Key, float& First, float& Second, float& Third);
 		bool ReadLocation(const json& Json, const FPlace& Place, FVector& OutLocation);
 		bool ReadRotation(const json& Json, const FPlace& Place, FRotator& OutRotation);
-		bool ReadClass(
-			const json& Json, const FPlace& Place, UClass* (*Find)(const FString&), const char* Kind, UClass*& OutClass);
+		bool ReadClass(const json& Json, const FPlace& Place, UClass* (*Find)(const FString&), const char* Kind,
+			UClass*& OutClass);
 		bool Refuse(const FPlace& Place, const std::string& Reason);
 
 		FLevelPlan& Plan;
@@ -79,7 +83,7 @@ namespace
 	bool FPlanReader::ReadView(const json& Json, const FPlace& Place)
 	{
 		return CheckKeys(Json, Place, {{"location", false}, {"rotation", false}}) &&
-			   ReadLocation(Json, Place, Plan.ViewLocation) && ReadRotation(Json, Place, Plan.ViewRotation);
+			ReadLocation(Json, Place, Plan.ViewLocation) && ReadRotation(Json, Place, Plan.ViewRotation);
 	}
 
 	bool FPlanReader::ReadAsset(const json& Json, const FPlace& Place)
@@ -117,7 +121,7 @@ namespace
 				{{"class", true}, {"name", true}, {"location", false}, {"rotation", false}, {"properties", false}}) ||
 			!ReadClass(Json, Place, &FLevelProperties::FindActorClass, "actor", Actor.Class) ||
 			!ReadActorName(Json["name"], Place / "name", Actor.Name) || !ReadLocation(Json, Place, Actor.Location) ||
-			!ReadRotation(Json, Place, Actor.Rotation))
+			!ReadRotation(Json, Place, Actor.Rotation) || !CheckPlace(Actor))
 		{
 			return false;
 		}
@@ -143,6 +147,13 @@ namespace
 		// These separate the parts of an object's path.
 		const bool bSeparator = Json.get_ref<const std::string&>().find_first_of("/.:") != std::string::npos;
 		return !bSeparator || Refuse(Place, "an actor's name can't hold any of / . :");
+	}
+
+	bool FPlanReader::CheckPlace(const FLevelPlan::FActor& Actor)
+	{
+		const bool bHasRoot = Actor.Class->GetDefaultObject<AActor>()->GetRootComponent() != nullptr;
+		const bool bAtZero = Actor.Location == FVector() && Actor.Rotation == FRotator();
+		return bHasRoot || bAtZero || Refuse(Actor.Place, "actors of this class have no place in the world");
 	}
 
 	bool FPlanReader::CheckProperties(const FLevelPlan::FActor& Actor)
@@ -246,8 +257,9 @@ namespace
 			return Refuse(Place / "class", Reason);
 		}
 		OutClass = Find(Name);
-		return OutClass || Refuse(Place / "class", FErrorText::Quote(Json["class"].get_ref<const std::string&>()) +
-													   " is no class of " + Kind + "s");
+		return OutClass ||
+			Refuse(Place / "class",
+				FErrorText::Quote(Json["class"].get_ref<const std::string&>()) + " is no class of " + Kind + "s");
 	}
 
 	bool FPlanReader::Refuse(const FPlace& Place, const std::string& Reason)

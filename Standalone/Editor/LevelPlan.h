@@ -12,8 +12,8 @@
 class UClass;
 
 /**
- * A level file that was read and found good in every part: what to make, in this order. Making it can't fail any more for
- * anything that stands in the file.
+ * A level file that was read and found good in every part: what to make, in this order. Making it can't fail any more
+ * for anything that stands in the file.
  */
 struct FLevelPlan
 {
@@ -40,6 +40,7 @@ struct FLevelPlan
 	std::vector<FActor> Actors;
 	FLevelReferences References;
 
-	/** Makes the plan of a file's text, or refuses it with OutError as `place: reason`. Changes nothing of the level. */
+	/** Makes the plan of a file's text, or refuses it with OutError as `place: reason`. Changes nothing of the level.
+	 */
 	static bool Make(const std::string& Text, FLevelPlan& OutPlan, std::string& OutError);
 };

@@ -1,10 +1,9 @@
 // Copyright Corvane. MIT License.
 #include "LevelProperties.h"
 
-#include "Components/ActorComponent.h"
+#include "Engine/Texture.h"
 #include "GameFramework/Actor.h"
 #include "UObject/Class.h"
-#include "UObject/Package.h"
 #include "UObject/UnrealType.h"
 
 namespace
@@ -50,10 +49,7 @@ UClass* FLevelProperties::FindActorClass(const FString& Name)
 
 UClass* FLevelProperties::FindAssetClass(const FString& Name)
 {
+	// The engine has no mark for what can be an asset; here textures are all there is.
 	UClass* Class = FindPlaceableClass(Name);
-	// What lives within something else, or is reflection itself, is no asset.
-	const bool bDependent = Class && (Class->IsChildOf(AActor::StaticClass()) ||
-										 Class->IsChildOf(UActorComponent::StaticClass()) ||
-										 Class->IsChildOf(UField::StaticClass()) || Class->IsChildOf(UPackage::StaticClass()));
-	return bDependent ? nullptr : Class;
+	return Class && Class->IsChildOf(UTexture::StaticClass()) ? Class : nullptr;
 }

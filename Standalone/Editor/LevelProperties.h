@@ -17,8 +17,8 @@ public:
 	static FProperty* Find(const UStruct* Struct, const FString& Name);
 
 	/**
-	 * Of an object, what the details panel shows is part of the level, and what only the engine keeps is not. Of a structure
-	 * all members are.
+	 * Of an object, what the details panel shows is part of the level, and what only the engine keeps is not. Of a
+	 * structure all members are.
 	 */
 	static bool IsStored(const UStruct* Struct, const FProperty* Property);
 

@@ -7,8 +7,8 @@ class UClass;
 class UObject;
 
 /**
- * What the properties of a level file may point at: its assets by path and its actors by name, in one table, as a path starts
- * with a slash and a name holds none. Letter case does not matter, as everywhere in the engine's names.
+ * What the properties of a level file may point at: its assets by path and its actors by name, in one table, as a path
+ * starts with a slash and a name holds none. Letter case does not matter, as everywhere in the engine's names.
  */
 class FLevelReferences
 {

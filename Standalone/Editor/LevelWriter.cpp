@@ -39,7 +39,7 @@ bool FLevelWriter::WriteView(ordered_json& OutJson)
 	const FEditorViewportClient* Client = FEditorViews::FindActiveClient();
 	const FPlace Place = FPlace() / "view";
 	return WriteLocation(Client ? Client->GetViewLocation() : FVector(), OutJson["location"], Place / "location") &&
-		   WriteRotation(Client ? Client->GetViewRotation() : FRotator(), OutJson["rotation"], Place / "rotation");
+		WriteRotation(Client ? Client->GetViewRotation() : FRotator(), OutJson["rotation"], Place / "rotation");
 }
 
 bool FLevelWriter::WriteActors(ordered_json& OutJson)
@@ -96,14 +96,14 @@ bool FLevelWriter::WriteLocation(const FVector& Location, ordered_json& OutJson,
 {
 	OutJson = ordered_json::array({nullptr, nullptr, nullptr});
 	return Properties.WriteFloat(Location.X, OutJson[0], Place / 0) &&
-		   Properties.WriteFloat(Location.Y, OutJson[1], Place / 1) &&
-		   Properties.WriteFloat(Location.Z, OutJson[2], Place / 2);
+		Properties.WriteFloat(Location.Y, OutJson[1], Place / 1) &&
+		Properties.WriteFloat(Location.Z, OutJson[2], Place / 2);
 }
 
 bool FLevelWriter::WriteRotation(const FRotator& Rotation, ordered_json& OutJson, const FPlace& Place)
 {
 	OutJson = ordered_json::array({nullptr, nullptr, nullptr});
 	return Properties.WriteFloat(Rotation.Pitch, OutJson[0], Place / 0) &&
-		   Properties.WriteFloat(Rotation.Yaw, OutJson[1], Place / 1) &&
-		   Properties.WriteFloat(Rotation.Roll, OutJson[2], Place / 2);
+		Properties.WriteFloat(Rotation.Yaw, OutJson[1], Place / 1) &&
+		Properties.WriteFloat(Rotation.Roll, OutJson[2], Place / 2);
 }

@@ -13,8 +13,7 @@ using nlohmann::json;
 
 FPropertyReader::FPropertyReader(EPass InPass, const FLevelReferences& InReferences, std::string& OutError)
 	: Pass(InPass), References(InReferences), Error(OutError)
-{
-}
+{}
 
 bool FPropertyReader::ReadMembers(const UStruct* Struct, void* Container, const json& Json, const FPlace& Place)
 {
@@ -138,8 +137,9 @@ bool FPropertyReader::ReadReference(FObjectProperty* Property, void* Value, cons
 		}
 		if (!Target->Class->IsChildOf(Property->PropertyClass))
 		{
-			return Refuse(Place, FErrorText::Quote(Json.get<std::string>()) + " is no " +
-									 FEngineText::ForDisplay(Property->PropertyClass->GetFName()));
+			return Refuse(Place,
+				FErrorText::Quote(Json.get<std::string>()) + " is no " +
+					FEngineText::ForDisplay(Property->PropertyClass->GetFName()));
 		}
 	}
 	if (Pass == EPass::Write)

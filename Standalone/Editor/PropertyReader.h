@@ -15,11 +15,12 @@ class FStructProperty;
 class UStruct;
 
 /**
- * Puts JSON into reflected properties, in two passes with the same rules: the first only checks, so that a level file is
- * known to be good before anything of the open level changes; the second writes.
+ * Puts JSON into reflected properties, in two passes with the same rules: the first only checks, so that a level file
+ * is known to be good before anything of the open level changes; the second writes.
  *
- * A structure is an object with its members' names; an array is an array and replaces all elements; a reference is the path of
- * an asset, the name of an actor, or null; a component that its owner makes itself is an object with its properties.
+ * A structure is an object with its members' names; an array is an array and replaces all elements; a reference is the
+ * path of an asset, the name of an actor, or null; a component that its owner makes itself is an object with its
+ * properties.
  */
 class FPropertyReader
 {
@@ -35,9 +36,9 @@ public:
 	FPropertyReader(EPass InPass, const FLevelReferences& InReferences, std::string& OutError);
 
 	/**
-	 * Reads the members of the object Json into Container, an instance of Struct. While checking, Container is the class's
-	 * default object, which tells the classes of the components and stays as it is; it is null inside of arrays, whose
-	 * elements do not exist yet.
+	 * Reads the members of the object Json into Container, an instance of Struct. While checking, Container is the
+	 * class's default object, which tells the classes of the components and stays as it is; it is null inside of
+	 * arrays, whose elements do not exist yet.
 	 */
 	bool ReadMembers(const UStruct* Struct, void* Container, const nlohmann::json& Json, const FPlace& Place);
 

@@ -5,7 +5,6 @@
 #include "StrictJson.h"
 
 #include <cmath>
-#include <vector>
 
 #include "EngineText.h"
 #include "LevelProperties.h"
@@ -14,39 +13,9 @@
 
 using nlohmann::ordered_json;
 
-namespace
-{
-	/** A default-constructed structure, to compare the elements of arrays with. */
-	class FDefaultStruct
-	{
-	public:
-		explicit FDefaultStruct(const UScriptStruct* InStruct)
-			: Struct(InStruct), Memory(::operator new(Size(), std::align_val_t(Alignment())))
-		{
-			Struct->InitializeStruct(Memory);
-		}
-		FDefaultStruct(const FDefaultStruct&) = delete;
-		FDefaultStruct& operator=(const FDefaultStruct&) = delete;
-		~FDefaultStruct()
-		{
-			Struct->DestroyStruct(Memory);
-			::operator delete(Memory, std::align_val_t(Alignment()));
-		}
-		const void* Get() const { return Memory; }
-
-	private:
-		size_t Size() const { return static_cast<size_t>(Struct->GetStructureSize()); }
-		size_t Alignment() const { return static_cast<size_t>(Struct->GetMinAlignment()); }
-
-		const UScriptStruct* Struct;
-		void* Memory;
-	};
-}
-
 FPropertyWriter::FPropertyWriter(const FReferenceTexts& InReferences, std::string& OutError)
 	: References(InReferences), Error(OutError)
-{
-}
+{}
 
 bool FPropertyWriter::WriteMembers(
 	const UStruct* Struct, const void* Container, const void* Defaults, ordered_json& OutJson, const FPlace& Place)
@@ -60,7 +29,7 @@ bool FPropertyWriter::WriteMembers(
 			continue;
 		}
 		if (!WriteMember(Property, Property->ContainerPtrToValuePtr<void>(Container),
-				Property->ContainerPtrToValuePtr<void>(Defaults), OutJson, Place))
+				Defaults ? Property->ContainerPtrToValuePtr<void>(Defaults) : nullptr, OutJson, Place))
 		{
 			return false;
 		}
@@ -86,7 +55,7 @@ bool FPropertyWriter::WriteMember(
 		}
 		return true;
 	}
-	if (Property->Identical(Value, Default))
+	if (Default && Property->Identical(Value, Default))
 	{
 		return true;
 	}
@@ -125,7 +94,7 @@ bool FPropertyWriter::WriteValue(
 	}
 	if (const FStructProperty* Struct = CastField<FStructProperty>(Property))
 	{
-		return WriteStruct(Struct, Value, Default, OutJson, Place);
+		return WriteMembers(Struct->Struct, Value, Default, OutJson, Place);
 	}
 	if (const FArrayProperty* Array = CastField<FArrayProperty>(Property))
 	{
@@ -146,25 +115,14 @@ bool FPropertyWriter::WriteArray(
 	for (int32 Index = 0; Index < Elements.Num(); ++Index)
 	{
 		ordered_json Element;
-		if (!WriteValue(Property->Inner, Elements.GetRawPtr(Index), nullptr, Element, Place / static_cast<size_t>(Index)))
+		if (!WriteValue(
+				Property->Inner, Elements.GetRawPtr(Index), nullptr, Element, Place / static_cast<size_t>(Index)))
 		{
 			return false;
 		}
 		OutJson.push_back(std::move(Element));
 	}
 	return true;
-}
-
-bool FPropertyWriter::WriteStruct(const FStructProperty* Property, const void* Value, const void* Default,
-	ordered_json& OutJson, const FPlace& Place)
-{
-	if (Default)
-	{
-		return WriteMembers(Property->Struct, Value, Default, OutJson, Place);
-	}
-	// An element of an array is read into a new one.
-	const FDefaultStruct Defaults(Property->Struct);
-	return WriteMembers(Property->Struct, Value, Defaults.Get(), OutJson, Place);
 }
 
 bool FPropertyWriter::WriteReference(const UObject* Object, ordered_json& OutJson, const FPlace& Place)
@@ -177,8 +135,9 @@ bool FPropertyWriter::WriteReference(const UObject* Object, ordered_json& OutJso
 	const auto Found = References.find(Object);
 	if (Found == References.end())
 	{
-		return Refuse(Place, "refers to " + FErrorText::Quote(FEngineText::ForDisplay(Object->GetPathName())) +
-								 ", which is no part of the level");
+		return Refuse(Place,
+			"refers to " + FErrorText::Quote(FEngineText::ForDisplay(Object->GetPathName())) +
+				", which is no part of the level");
 	}
 	OutJson = Found->second;
 	return true;

@@ -10,13 +10,12 @@
 
 class FArrayProperty;
 class FProperty;
-class FStructProperty;
 class UObject;
 class UStruct;
 
 /**
- * Puts reflected properties into JSON, in the form that FPropertyReader reads. What has its default value is left out, so
- * that a level file says what is special in it, and follows when a default changes.
+ * Puts reflected properties into JSON, in the form that FPropertyReader reads. What has its default value is left out,
+ * so that a level file says what is special in it, and follows when a default changes.
  */
 class FPropertyWriter
 {
@@ -29,9 +28,10 @@ public:
 	FPropertyWriter(const FReferenceTexts& InReferences, std::string& OutError);
 
 	/**
-	 * Writes those members of Container, an instance of Struct, that differ from those of Defaults.
-	 * @return false for what no file can hold: text that is no well-formed Unicode, a number that is not finite, a reference
-	 *         out of the level.
+	 * Writes those members of Container, an instance of Struct, that differ from those of Defaults, or all of them if
+	 * that is null: an element of an array has nothing to follow, and stands complete for who reads the file.
+	 * @return false for what no file can hold: text that is no well-formed Unicode, a number that is not finite, a
+	 * reference out of the level.
 	 */
 	bool WriteMembers(const UStruct* Struct, const void* Container, const void* Defaults,
 		nlohmann::ordered_json& OutJson, const FPlace& Place);
@@ -50,8 +50,6 @@ private:
 		const FPlace& Place);
 	bool WriteArray(
 		const FArrayProperty* Property, const void* Value, nlohmann::ordered_json& OutJson, const FPlace& Place);
-	bool WriteStruct(const FStructProperty* Property, const void* Value, const void* Default,
-		nlohmann::ordered_json& OutJson, const FPlace& Place);
 	bool WriteReference(const UObject* Object, nlohmann::ordered_json& OutJson, const FPlace& Place);
 	bool Refuse(const FPlace& Place, const std::string& Reason);
 

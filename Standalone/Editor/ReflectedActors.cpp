@@ -18,11 +18,12 @@ namespace
 		return FindObject<UClass>(ANY_PACKAGE, Name);
 	}
 
-	template <typename PropertyType> const PropertyType* GetProperty(const UStruct* Struct, const ANSICHAR* Name)
+	template <typename PropertyType>
+	const PropertyType* GetProperty(const UStruct* Struct, const ANSICHAR* Name)
 	{
 		const PropertyType* Property = CastField<PropertyType>(Struct->FindPropertyByName(FName(Name)));
-		checkf(Property != nullptr, TEXT("%s has no property %s of the agreed kind"), *Struct->GetName(),
-			*FString(Name));
+		checkf(
+			Property != nullptr, TEXT("%s has no property %s of the agreed kind"), *Struct->GetName(), *FString(Name));
 		return Property;
 	}
 
@@ -39,7 +40,8 @@ namespace
 
 	std::string GetText(const UStruct* Struct, const ANSICHAR* Name, const void* Container)
 	{
-		return FEngineText::ForDisplay(GetProperty<FStrProperty>(Struct, Name)->GetPropertyValue_InContainer(Container));
+		return FEngineText::ForDisplay(
+			GetProperty<FStrProperty>(Struct, Name)->GetPropertyValue_InContainer(Container));
 	}
 }
 

@@ -8,8 +8,8 @@
 class AActor;
 
 /**
- * The plugin's actors, read through reflection: the editor links none of the plugin's modules, so any build of them does. A
- * class or property that is missing under its agreed name is fatal.
+ * The plugin's actors, read through reflection: the editor links none of the plugin's modules, so any build of them
+ * does. A class or property that is missing under its agreed name is fatal.
  */
 class FReflectedActors
 {

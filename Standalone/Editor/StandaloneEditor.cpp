@@ -59,7 +59,8 @@ namespace
 		IPluginManager::Get().AddPluginSearchPath(UTF8_TO_TCHAR(Directory.c_str()), true);
 		if (!IPluginManager::Get().FindPlugin(PluginName).IsValid())
 		{
-			OutError = FErrorText::ForFile(Directory, "there is no plugin " + FEngineText::ForDisplay(FString(PluginName)));
+			OutError =
+				FErrorText::ForFile(Directory, "there is no plugin " + FEngineText::ForDisplay(FString(PluginName)));
 			return false;
 		}
 		return true;

@@ -29,10 +29,11 @@ struct FStandaloneEditorOptions
 };
 
 /**
- * The engine and the plugin in one process, without a window: two worlds, of which the second stays empty, and a viewport on the
- * first, which is active.
+ * The engine and the plugin in one process, without a window: two worlds, of which the second stays empty, and a
+ * viewport on the first, which is active.
  *
- * One editor at a time; after one was shut down another can be started in the same process. Its objects are gone with it.
+ * One editor at a time; after one was shut down another can be started in the same process. Its objects are gone with
+ * it.
  */
 class FStandaloneEditor
 {

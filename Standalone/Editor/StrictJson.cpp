@@ -14,7 +14,8 @@ using nlohmann::ordered_json;
 
 namespace
 {
-	/** The parser's own wording without its prefix and without a quotation of the file, which may be long or ill-formed. */
+	/** The parser's own wording without its prefix and without a quotation of the file, which may be long or
+	 * ill-formed. */
 	std::string PlainReason(const std::string& What)
 	{
 		const std::string Mark = " - ";
@@ -42,8 +43,7 @@ namespace
 	public:
 		FDocumentBuilder(std::string_view InText, json& InRoot, std::string& InError)
 			: Text(InText), Root(InRoot), Error(InError)
-		{
-		}
+		{}
 
 		bool null() override { return Store(nullptr); }
 		bool boolean(bool Value) override { return Store(Value); }
@@ -60,8 +60,10 @@ namespace
 		bool parse_error(std::size_t Position, const std::string& Token, const json::exception& Problem) override;
 
 	private:
-		template <typename ValueType> json* Add(ValueType&& Value);
-		template <typename ValueType> bool Store(ValueType&& Value);
+		template <typename ValueType>
+		json* Add(ValueType&& Value);
+		template <typename ValueType>
+		bool Store(ValueType&& Value);
 		bool Open(json Container);
 		bool Close();
 		bool Refuse(const std::string& Reason);
@@ -74,7 +76,8 @@ namespace
 		std::vector<std::string> Keys;
 	};
 
-	template <typename ValueType> json* FDocumentBuilder::Add(ValueType&& Value)
+	template <typename ValueType>
+	json* FDocumentBuilder::Add(ValueType&& Value)
 	{
 		if (Stack.empty())
 		{
@@ -92,7 +95,8 @@ namespace
 		return &Member;
 	}
 
-	template <typename ValueType> bool FDocumentBuilder::Store(ValueType&& Value)
+	template <typename ValueType>
+	bool FDocumentBuilder::Store(ValueType&& Value)
 	{
 		Add(std::forward<ValueType>(Value));
 		return true;

@@ -8,8 +8,8 @@
 
 /**
  * Reads and writes JSON as the level files need it.
- * Reading is strict: well-formed Unicode, no key twice in an object, no deeper than MaxDepth. Writing is made for reading
- * and comparing by people: one line for what holds only plain values, one line an element otherwise.
+ * Reading is strict: well-formed Unicode, no key twice in an object, no deeper than MaxDepth. Writing is made for
+ * reading and comparing by people: one line for what holds only plain values, one line an element otherwise.
  */
 class FStrictJson
 {
@@ -19,8 +19,8 @@ public:
 
 	/**
 	 * Parses one JSON document.
-	 * @return false on failure; OutError is then `place: reason`, the place "line L, column C" (in bytes) for what is no
-	 *         JSON, and a JSON pointer for what is not allowed here.
+	 * @return false on failure; OutError is then `place: reason`, the place "line L, column C" (in bytes) for what is
+	 * no JSON, and a JSON pointer for what is not allowed here.
 	 */
 	static bool Parse(std::string_view Text, nlohmann::json& OutValue, std::string& OutError);
 

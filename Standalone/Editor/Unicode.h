@@ -6,8 +6,8 @@
 
 /**
  * Strict conversions between the UTF-8 of files and command lines and the engine's UTF-16.
- * Unlike the engine's own conversions these refuse what is ill-formed instead of replacing it, so that no text is changed
- * silently on its way through a file.
+ * Unlike the engine's own conversions these refuse what is ill-formed instead of replacing it, so that no text is
+ * changed silently on its way through a file.
  */
 class FUnicode
 {

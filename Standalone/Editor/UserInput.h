@@ -6,8 +6,8 @@
 class SWidget;
 
 /**
- * What a user's hands do, as events for the application: the same path that a window takes, so that focus moves and boxes
- * commit before a click arrives.
+ * What a user's hands do, as events for the application: the same path that a window takes, so that focus moves and
+ * boxes commit before a click arrives.
  */
 class FUserInput
 {
@@ -21,6 +21,7 @@ public:
 	/** Copies Text and pastes it with Ctrl+V into whatever has the focus. */
 	static void Paste(const FString& Text);
 
-	/** Presses and releases the left mouse button on the widget. @return false, with nothing done, if it is not shown. */
+	/** Presses and releases the left mouse button on the widget. @return false, with nothing done, if it is not shown.
+	 */
 	static bool Click(const TSharedRef<SWidget>& Widget);
 };

@@ -9,8 +9,9 @@ class STextBlock;
 class SWidget;
 
 /**
- * Finds widgets as a user does: by what is shown, from the top down, whatever the tree around it. A widget is shown if it and
- * all widgets above it are visible. Each call looks anew, as visibilities follow the state of what they are bound to.
+ * Finds widgets as a user does: by what is shown, from the top down, whatever the tree around it. A widget is shown if
+ * it and all widgets above it are visible. Each call looks anew, as visibilities follow the state of what they are
+ * bound to.
  */
 class FWidgetFinder
 {

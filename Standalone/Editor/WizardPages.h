@@ -9,7 +9,8 @@
 class SEditableTextBox;
 class SWidget;
 
-/** The open wizard as a user sees it: a box for the name, a line under it, a button, and what the page says afterwards. */
+/** The open wizard as a user sees it: a box for the name, a line under it, a button, and what the page says afterwards.
+ */
 class FWizardPages
 {
 public:

@@ -12,7 +12,8 @@ namespace
 {
 	using EKind = FAssetToolsFault::EKind;
 
-	/** What the factory makes; the module manager keeps a factory for good, so it must be able to make the real one too. */
+	/** What the factory makes; the module manager keeps a factory for good, so it must be able to make the real one
+	 * too. */
 	std::optional<EKind> CurrentKind;
 
 	class FFaultyAssetTools final : public IAssetTools
@@ -30,10 +31,9 @@ namespace
 		UObject* CreateAsset(const FString& AssetName, const FString& PackagePath, UClass*, UFactory* Factory,
 			FName CallingContext) override
 		{
-			return Kind == EKind::ReturnNull
-					   ? nullptr
-					   : Real.FAssetToolsModule::Get().CreateAsset(
-							 AssetName, PackagePath, UOtherAsset::StaticClass(), Factory, CallingContext);
+			return Kind == EKind::ReturnNull ? nullptr
+											 : Real.FAssetToolsModule::Get().CreateAsset(AssetName, PackagePath,
+												   UOtherAsset::StaticClass(), Factory, CallingContext);
 		}
 
 	private:

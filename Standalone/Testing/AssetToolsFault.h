@@ -2,8 +2,8 @@
 #pragma once
 
 /**
- * Makes the creation of assets go wrong while it lives, by putting another module in the place of "AssetTools". Names are still
- * made by the real tools. Start it while an editor runs, and end it before that editor does.
+ * Makes the creation of assets go wrong while it lives, by putting another module in the place of "AssetTools". Names
+ * are still made by the real tools. Start it while an editor runs, and end it before that editor does.
  */
 class FAssetToolsFault
 {

@@ -15,9 +15,11 @@ FEditorEventCounts::FEditorEventCounts()
 			RedrawsWithHitProxies += bInvalidateHitProxies ? 1 : 0;
 		});
 	ContentSyncHandle = FStandaloneEditorEvents::ContentSync.AddLambda(
-		[this](const TArray<UObject*>& Objects, bool bFocusContentBrowser)
-		{ ContentSyncs.Add(FContentSync{Objects, bFocusContentBrowser}); });
-	AssetAddedHandle = IAssetRegistry::GetChecked().OnAssetAdded().AddLambda([this](const FAssetData&) { ++AssetsAdded; });
+		[this](const TArray<UObject*>& Objects, bool bFocusContentBrowser) {
+			ContentSyncs.Add(FContentSync{Objects, bFocusContentBrowser});
+		});
+	AssetAddedHandle =
+		IAssetRegistry::GetChecked().OnAssetAdded().AddLambda([this](const FAssetData&) { ++AssetsAdded; });
 }
 
 FEditorEventCounts::~FEditorEventCounts()

@@ -1,6 +1,6 @@
 // Copyright Corvane. MIT License.
-// Runs the automation specs of the plugin: in an editor with the plugin's modules as they are built with their specs, each It
-// as one GoogleTest case.
+// Runs the automation specs of the plugin: in an editor with the plugin's modules as they are built with their specs,
+// each It as one GoogleTest case.
 #include "AutomationBridge.h"
 #include "StandaloneEditor.h"
 

@@ -33,6 +33,7 @@ public:
 	static FStandaloneEditorOptions WithoutViewport();
 
 	FStandaloneEditor& Get() { return Editor; }
+	const FStandaloneEditor& Get() const { return Editor; }
 
 	/** 0: the world of the open level; 1: the second one. */
 	UWorld& GetWorld(int32 Index = 0) const { return *Editor.GetWorld(Index); }

@@ -59,7 +59,8 @@ TEST(FCommandLine, LeavesWhatWasNotGivenUnset)
 
 TEST(FCommandLine, PassesNamesOnLetterForLetter)
 {
-	for (const char* Name : {"", " ", "\t", "{0}", "{", "`", "%s", "..", "a/b", "a\\b", "\"q\"", "'q'", "[a,b]", "a=b", "😀"})
+	for (const char* Name :
+		{"", " ", "\t", "{0}", "{", "`", "%s", "..", "a/b", "a\\b", "\"q\"", "'q'", "[a,b]", "a=b", "😀"})
 	{
 		EXPECT_EQ(NameOf({"create", Name}), Name);
 	}
@@ -79,7 +80,8 @@ TEST(FCommandLine, SaysThatThereIsNoWindowAndPointsToCreate)
 
 TEST(FCommandLine, SaysThatAScreenshotNeedsTheWindow)
 {
-	EXPECT_NE(RefusalOf({"create", "Main", "--screenshot", "a.png"}).find("needs the editor window"), std::string::npos);
+	EXPECT_NE(
+		RefusalOf({"create", "Main", "--screenshot", "a.png"}).find("needs the editor window"), std::string::npos);
 }
 
 TEST(FCommandLine, RefusesANameThatIsNotUtf8)

@@ -42,14 +42,15 @@ TEST(FCreateReport, WritesAlignedLinesForPeople)
 {
 	FCreateReport Report = MakeReport();
 	Report.SavedTo = "out.json";
-	EXPECT_EQ(Report.ToText(), "Cinestream 'Main' created!\n"
-							   "\n"
-							   "Render target  /Game/CineStream/Main\n"
-							   "Camera         Camera at 0.1, -2, 3, pitch 4, yaw 5.5, roll 6\n"
-							   "Sender manager Manager (new, 1 entry)\n"
-							   "Sender         Main\n"
-							   "  stand-alone  Main_Standalone\n"
-							   "Saved          out.json\n");
+	EXPECT_EQ(Report.ToText(),
+		"Cinestream 'Main' created!\n"
+		"\n"
+		"Render target  /Game/CineStream/Main\n"
+		"Camera         Camera at 0.1, -2, 3, pitch 4, yaw 5.5, roll 6\n"
+		"Sender manager Manager (new, 1 entry)\n"
+		"Sender         Main\n"
+		"  stand-alone  Main_Standalone\n"
+		"Saved          out.json\n");
 }
 
 TEST(FCreateReport, TellsAManagerThatWasThereAlready)

@@ -33,7 +33,8 @@ namespace
 	}
 
 	/** @return the exit status of a child process that ran Body: 0 if it returned true. */
-	template <typename BodyType> int RunInChild(BodyType Body)
+	template <typename BodyType>
+	int RunInChild(BodyType Body)
 	{
 		const pid_t Child = ::fork();
 		if (Child == 0)
@@ -54,7 +55,7 @@ namespace
 		Limit.rlim_max = 10;
 		std::string Error;
 		return ::setrlimit(RLIMIT_FSIZE, &Limit) == 0 && !FFileAccess::Replace(Path, std::string(100, 'x'), Error) &&
-			   Error == Path + ": File too large";
+			Error == Path + ": File too large";
 	}
 
 	/** Replaces a file without the superuser's rights, which no file's rights bind. */
@@ -63,7 +64,7 @@ namespace
 		constexpr uid_t Nobody = 65534;
 		std::string Error;
 		return (::geteuid() != 0 || ::setuid(Nobody) == 0) && !FFileAccess::Replace(Path, "new", Error) &&
-			   Error == Path + ": Permission denied";
+			Error == Path + ": Permission denied";
 	}
 }
 
@@ -114,7 +115,8 @@ TEST(FFileAccess, WritesANewFileWithTheUsersUsualRights)
 	ASSERT_TRUE(FFileAccess::Replace(Folder.File("a"), "text", Error)) << Error;
 	EXPECT_EQ(FTemporaryFolder::ReadFile(Folder.File("a")), "text");
 	EXPECT_EQ(Folder.List(), std::vector<std::string>{"a"});
-	struct stat Info{};
+	struct stat Info
+	{};
 	ASSERT_EQ(::stat(Folder.File("a").c_str(), &Info), 0);
 	const mode_t Mask = ::umask(0);
 	::umask(Mask);
@@ -129,7 +131,8 @@ TEST(FFileAccess, ReplacesAFileAndKeepsItsRights)
 	std::string Error;
 	ASSERT_TRUE(FFileAccess::Replace(Path, "new", Error)) << Error;
 	EXPECT_EQ(FTemporaryFolder::ReadFile(Path), "new");
-	struct stat Info{};
+	struct stat Info
+	{};
 	ASSERT_EQ(::stat(Path.c_str(), &Info), 0);
 	EXPECT_EQ(Info.st_mode & 0777U, 0640U);
 }

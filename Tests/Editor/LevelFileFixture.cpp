@@ -30,7 +30,10 @@ const std::string FLevelFileFixture::SampleText = R"({
 				"Text": "ä€😀",
 				"Inner": {"Label":"x","Target":"Second_4"},
 				"Texture": "/Game/CineStream/Main",
-				"Component": {"Strength":1e-10,"Notes":["a",""]}
+				"Component": {
+					"Strength": 1e-10,
+					"Notes": ["a",""]
+				}
 			}
 		},
 		{

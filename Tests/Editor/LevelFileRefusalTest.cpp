@@ -1,7 +1,5 @@
 // Copyright Corvane. MIT License.
 // What stands in a level file and is refused: always with its place, and without a change to the open level.
-#include "LevelFileFixture.h"
-
 #include <gtest/gtest.h>
 
 #include <sys/stat.h>
@@ -12,6 +10,7 @@
 #include <vector>
 
 #include "LevelFile.h"
+#include "LevelFileFixture.h"
 
 namespace
 {
@@ -131,9 +130,11 @@ TEST_F(FLevelFileRefusal, Places)
 		{R"({"view":{"location":"0,0,0"}})", "/view/location: an array of three numbers is wanted"},
 		{R"({"view":{"rotation":[0,"0",0]}})", "/view/rotation/1: a number is wanted"},
 		{R"({"view":{"rotation":[0,0,3.5e38]}})", "/view/rotation/2: the number does not fit into 32 bits"},
-		{R"({"view":{"rotation":[0,0,1e999]}})", "line 1, column 32: number too large"},
+		{R"({"view":{"rotation":[0,0,1e999]}})", "line 1, column 30: number too large"},
 		{Actor(R"("location":[0,0,0,0])"), "/actors/0/location: an array of three numbers is wanted"},
 		{Actor(R"("rotation":[null,0,0])"), "/actors/0/rotation/0: a number is wanted"},
+		{R"({"actors":[{"class":"Actor","name":"A","location":[0,1,0]}]})",
+			"/actors/0: actors of this class have no place in the world"},
 	});
 }
 
@@ -209,12 +210,12 @@ TEST_F(FLevelFileRefusal, UnknownProperties)
 	ExpectValuesRefused("Hidden", {"3"}, Unknown);
 	ExpectValuesRefused("Passing", {"3"}, Unknown);
 	ExpectValuesRefused("RootComponent", {"null"}, Unknown);
-	ExpectRefused(Property("Inner", R"({"Size":1})"),
-		"/actors/0/properties/Inner/Size: unknown property of EveryPropertyStruct");
+	ExpectRefused(
+		Property("Inner", R"({"Size":1})"), "/actors/0/properties/Inner/Size: unknown property of EveryPropertyStruct");
 	ExpectRefused(Property("Component", R"({"RelativeLocation":{}})"),
 		"/actors/0/properties/Component/RelativeLocation: unknown property of EveryPropertyComponent");
-	ExpectRefused(Property(std::string(1100, 'x'), "1"),
-		"/actors/0/properties/" + std::string(1100, 'x') + ": " + Unknown);
+	ExpectRefused(
+		Property(std::string(1100, 'x'), "1"), "/actors/0/properties/" + std::string(1100, 'x') + ": " + Unknown);
 }
 
 TEST_F(FLevelFileRefusal, ValuesOfAnotherType)

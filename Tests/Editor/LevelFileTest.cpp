@@ -1,17 +1,10 @@
 // Copyright Corvane. MIT License.
 #include "LevelFile.h"
 
-#include "LevelFileFixture.h"
-
 #include <gtest/gtest.h>
-#include <sys/stat.h>
+#include <nlohmann/json.hpp>
 
-#include <csignal>
-#include <cmath>
 #include <limits>
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include "Editor.h"
 #include "EditorAssets.h"
@@ -20,6 +13,7 @@
 #include "Engine/World.h"
 #include "EveryPropertyActor.h"
 #include "LevelEditorViewport.h"
+#include "LevelFileFixture.h"
 #include "OtherAsset.h"
 #include "Templates/Casts.h"
 #include "UObject/Package.h"
@@ -156,11 +150,12 @@ TEST_F(FLevelFileTest, ClearsTheDirtyFlagsWhenItWasSaved)
 	EXPECT_FALSE(FEditorAssets::GetAll()[0]->GetOutermost()->IsDirty());
 }
 
-TEST_F(FLevelFileTest, LeavesDefaultsOutOfArraysOfStructures)
+TEST_F(FLevelFileTest, WritesTheStructuresOfAnArrayInFull)
 {
-	GetFirst().Structs.SetNum(2);
-	GetFirst().Structs[1].Count = 0;
-	EXPECT_NE(GetText().find("\"Structs\": [\n\t\t\t\t\t{},\n\t\t\t\t\t{\"Count\":0}\n"), std::string::npos) << GetText();
+	GetFirst().Structs.SetNum(1);
+	const nlohmann::ordered_json Actor = nlohmann::ordered_json::parse(GetText())["actors"][0];
+	EXPECT_EQ(Actor["properties"]["Structs"].dump(),
+		R"([{"Label":"","Count":7,"Offset":{"X":0,"Y":0,"Z":0},"Target":null}])");
 }
 
 TEST_F(FLevelFileTest, WritesAnEmptiedArrayThatIsNotEmptyByDefault)

@@ -142,7 +142,8 @@ RC_GTEST_PROP(FStrictJsonProperties, EveryFiniteFloatComesBackBitForBit, ())
 	RC_ASSERT(std::memcmp(&Value, &Back, sizeof(Value)) == 0);
 }
 
-RC_GTEST_PROP(FStrictJsonProperties, WhatIsFormattedParsesToTheSameValue, (std::vector<std::map<std::string, int>> Model))
+RC_GTEST_PROP(
+	FStrictJsonProperties, WhatIsFormattedParsesToTheSameValue, (std::vector<std::map<std::string, int>> Model))
 {
 	// Arbitrary bytes are rarely UTF-8; only what a file can carry is formatted.
 	ordered_json Value = ordered_json::array();

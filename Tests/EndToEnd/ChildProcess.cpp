@@ -44,7 +44,8 @@ namespace
 		::_exit(127);
 	}
 
-	/** Reads both pipes to their ends, whichever has something first, so that the program never waits for a full pipe. */
+	/** Reads both pipes to their ends, whichever has something first, so that the program never waits for a full pipe.
+	 */
 	void ReadBoth(FPipe& Output, FPipe& Errors, FChildProcess& Process)
 	{
 		std::array<pollfd, 2> Polled{{{Output[0], POLLIN, 0}, {Errors[0], POLLIN, 0}}};

@@ -20,8 +20,7 @@ namespace
 	}
 
 	class FCreateNames : public ::testing::TestWithParam<FNameCase>
-	{
-	};
+	{};
 }
 
 TEST_P(FCreateNames, MakesTheSetupLetterForLetter)

@@ -120,8 +120,7 @@ TEST(FCreate, TellsPeopleWhyNothingWasMade)
 {
 	const FChildProcess Process = FChildProcess::Run({"create", "Stage Left", "--level", GetSample("studio.json")});
 	EXPECT_EQ(Process.Status, 1);
-	EXPECT_EQ(Process.Output,
-		FWizardTexts::EmptyName + "\nWhile typing   " + FWizardTexts::TakenName + "\n");
+	EXPECT_EQ(Process.Output, FWizardTexts::EmptyName + "\nWhile typing   " + FWizardTexts::TakenName + "\n");
 }
 
 TEST(FCreate, SavesNothingWhenItFails)
