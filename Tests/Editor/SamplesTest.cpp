@@ -11,8 +11,7 @@
 namespace
 {
 	class FSamplesTest : public ::testing::TestWithParam<const char*>
-	{
-	};
+	{};
 }
 
 TEST_P(FSamplesTest, IsWhatTheEditorSavesItselfAfterOpeningIt)

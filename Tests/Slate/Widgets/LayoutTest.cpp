@@ -153,7 +153,8 @@ namespace
 				+ SVerticalBox::Slot().AutoHeight().HAlign(HAlign_Center)
 				[
 					SAssignNew(Description, STextBlock)
-						.Text(FText::FromString(TEXT("A text that is much too long to stand on one line of the column and wraps.")))
+						.Text(FText::FromString(
+							TEXT("A text that is much too long to stand on one line of the column and wraps.")))
 						.Font(Plain)
 						.AutoWrapText(true)
 				];

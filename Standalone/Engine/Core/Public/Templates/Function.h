@@ -22,7 +22,9 @@ template <typename Ret, typename... ParamTypes>
 class TFunctionRef<Ret(ParamTypes...)>
 {
 public:
-	template <typename FunctorType>
+	// Not for another reference: that is copied, so that it does not refer to the reference.
+	template <typename FunctorType,
+		typename = typename std::enable_if<!std::is_same<typename std::decay<FunctorType>::type, TFunctionRef>::value>::type>
 	TFunctionRef(FunctorType&& Functor)
 		: Object(const_cast<void*>(static_cast<const void*>(&Functor))),
 		  Caller([](void* Callee, ParamTypes... Params) -> Ret {

@@ -141,12 +141,8 @@ public:
 	{
 	}
 	// A moved-from reference would be null: moving copies.
-	TSharedRef(const TSharedRef& Other) : Pointer(Other.Pointer) {}
-	TSharedRef& operator=(const TSharedRef& Other)
-	{
-		Pointer = Other.Pointer;
-		return *this;
-	}
+	TSharedRef(const TSharedRef& Other) = default;
+	TSharedRef& operator=(const TSharedRef& Other) = default;
 
 	ObjectType& Get() const
 	{
