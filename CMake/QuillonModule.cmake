@@ -126,6 +126,10 @@ function(quillon_test NAME)
 	add_executable(${NAME} ${sources})
 	set_target_properties(${NAME} PROPERTIES CXX_STANDARD 17)
 	target_compile_options(${NAME} PRIVATE ${QUILLON_WARNINGS})
+	if(QUILLON_SANITIZE)
+		# GCC warns of this in the standard library's own code once it is instrumented (regular expressions, for one).
+		target_compile_options(${NAME} PRIVATE -Wno-maybe-uninitialized)
+	endif()
 	target_include_directories(${NAME} PRIVATE ${ARG_FOLDER})
 	# Tests may declare reflected classes of their own.
 	file(GLOB_RECURSE headers CONFIGURE_DEPENDS ${ARG_FOLDER}/*.h)

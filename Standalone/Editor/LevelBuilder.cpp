@@ -73,6 +73,5 @@ void FLevelBuilder::Replace(FLevelPlan& Plan)
 	SpawnActors(Plan, *FEditorViews::GetLevelWorld());
 	SetProperties(Plan);
 	SetView(Plan);
-	FEditorAssets::ClearDirtyFlags();
 	GEditor->RedrawAllViewports(true);
 }

@@ -12,6 +12,7 @@
 #include "EditorEventCounts.h"
 #include "Engine/World.h"
 #include "GameFramework/Actor.h"
+#include "HAL/PlatformApplicationMisc.h"
 #include "LevelEditorViewport.h"
 #include "RecordingEditor.h"
 #include "TestEditor.h"
@@ -28,6 +29,13 @@ namespace
 			std::string Error;
 			EXPECT_TRUE(FCreateJob(Editor.Get()).Run(Name, Report, Error)) << Error;
 			return Report;
+		}
+
+		static FString GetClipboard()
+		{
+			FString Text;
+			FPlatformApplicationMisc::ClipboardPaste(Text);
+			return Text;
 		}
 
 		FTestEditor Editor;
@@ -113,13 +121,28 @@ TEST_F(FCreateJobTest, RefusesANameThatTheBoxDoesNotTake)
 	EXPECT_EQ(FTestEditor::GetActors(Editor.GetWorld()).Num(), 0);
 }
 
-TEST_F(FCreateJobTest, TakesANameThatIsLongerThanOneTypes)
+TEST_F(FCreateJobTest, PastesANameWithWhatNoKeyTypes)
+{
+	const FCreateReport Report = Run(TEXT("a\tb"));
+	ASSERT_TRUE(Report.Setup.has_value());
+	EXPECT_EQ(Report.Setup->Sender.Name, "a\tb");
+}
+
+TEST_F(FCreateJobTest, LeavesTheClipboardAloneWhenItTypes)
+{
+	FPlatformApplicationMisc::ClipboardCopy(TEXT("before"));
+	ASSERT_TRUE(Run(TEXT("Main")).Setup.has_value());
+	EXPECT_TRUE(GetClipboard().Equals(TEXT("before")));
+}
+
+TEST_F(FCreateJobTest, PastesANameThatIsLongerThanOneTypes)
 {
 	const std::string Long(1001, 'x');
 	const FCreateReport Report = Run(UTF8_TO_TCHAR(Long.c_str()));
 	ASSERT_TRUE(Report.Setup.has_value());
 	EXPECT_EQ(Report.Setup->Sender.Name, Long);
 	EXPECT_EQ(Report.Setup->Asset, "/Game/CineStream/" + Long);
+	EXPECT_TRUE(GetClipboard().Equals(UTF8_TO_TCHAR(Long.c_str())));
 }
 
 TEST_F(FCreateJobTest, AsksTheEditorToShowTheCameraOnce)

@@ -37,7 +37,8 @@ INSTANTIATE_TEST_SUITE_P(FCreateNames, FCreateNames,
 		FNameCase{"Backslash", "a\\b", "a_b"}, FNameCase{"SingleQuotes", "'Main'", "_Main_"},
 		FNameCase{"DoubleQuotes", "\"Main\"", "_Main_"}, FNameCase{"Emoji", "😀🎥", "😀🎥"},
 		FNameCase{"RightToLeft", "שידור", "שידור"}, FNameCase{"Brackets", "[a,b]", "_a_b_"},
-		FNameCase{"Dashes", "--json", "--json"}, FNameCase{"CombiningMark", "e\u0301", "e\u0301"}),
+		FNameCase{"Dashes", "--json", "--json"}, FNameCase{"CombiningMark", "e\u0301", "e\u0301"},
+		FNameCase{"TabWithin", "a\tb", "a_b"}, FNameCase{"ControlCharacter", "a\x01", "a_"}),
 	[](const auto& Info) { return std::string(Info.param.Title); });
 
 TEST(FCreateRefusals, AnEmptyNameAnswersWithTheEmptyNameWarning)
@@ -54,6 +55,14 @@ TEST(FCreateRefusals, BlanksAreWarnedOfWhileTyping)
 TEST(FCreateRefusals, ATabIsWarnedOfAsEmpty)
 {
 	FCreateRun("\t").ExpectRefused(FWizardTexts::EmptyName, FWizardTexts::EmptyName);
+}
+
+TEST(FCreateRefusals, ALineBreakIsNoNameThatTheBoxTakes)
+{
+	const FChildProcess Process = FChildProcess::Run({"create", "two\nlines"});
+	EXPECT_EQ(Process.Status, 2);
+	EXPECT_EQ(Process.Output, "");
+	EXPECT_EQ(Process.Errors, "NAME: the wizard's box does not take these characters\n");
 }
 
 TEST(FCreateRefusals, ATakenNameIsWarnedOfWhileTypingAndEmptyAtTheEnd)

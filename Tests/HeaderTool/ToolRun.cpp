@@ -56,7 +56,7 @@ bool FToolRun::Run(const std::vector<std::string>& Headers)
 bool FToolRun::RunWith(const std::string& Arguments)
 {
 	const fs::path Log = Folder / "messages";
-	const int Status = std::system((std::string(HEADER_TOOL) + " " + Arguments + " 2>" + Log.string()).c_str());
+	const int Status = std::system(("'" HEADER_TOOL "' " + Arguments + " 2>" + Log.string()).c_str());
 	ExitStatus = WIFEXITED(Status) ? WEXITSTATUS(Status) : -1;
 	Messages = ReadFile(Log);
 	const std::string Prefix = (Folder / "Module/Public").string() + "/";
