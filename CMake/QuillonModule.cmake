@@ -1,6 +1,7 @@
 # Copyright Corvane. MIT License.
-# How modules, programs and tests are built. A module is a folder with Public/ and Private/, as in the engine: its objects are
-# one OBJECT library (so that a test can link a module's private parts), and the module itself a shared library.
+# How modules, programs and tests are built. A module is a folder with Public/ and Private/, as in the engine: its
+# objects are one OBJECT library (so that a test can link a module's private parts), and the module itself a shared
+# library.
 
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
@@ -28,8 +29,8 @@ if(QUILLON_MOLD)
 endif()
 find_package(Threads REQUIRED)
 
-# quillon_reflect(<target> <module> <header>...): runs HeaderTool over those headers that declare reflected types and compiles
-# what it writes into <target>.
+# quillon_reflect(<target> <module> <header>...): runs HeaderTool over those headers that declare reflected types and
+# compiles what it writes into <target>.
 function(quillon_reflect TARGET MODULE)
 	set(reflected)
 	set(outputs)
@@ -93,8 +94,9 @@ function(quillon_module NAME)
 	set_property(GLOBAL APPEND PROPERTY QUILLON_MODULES ${NAME})
 endfunction()
 
-# quillon_specs(<name> FOLDER <dir>): the module once more, with the automation specs of its Private/Tests inside, as the engine's
-# editor build has them. It goes into a folder of its own, so that the program never loads it in the plain module's place.
+# quillon_specs(<name> FOLDER <dir>): the module once more, with the automation specs of its Private/Tests inside, as
+# the engine's editor build has them. It goes into a folder of its own, so that the program never loads it in the plain
+# module's place.
 function(quillon_specs NAME)
 	cmake_parse_arguments(ARG "" "FOLDER" "" ${ARGN})
 	file(GLOB sources CONFIGURE_DEPENDS ${ARG_FOLDER}/Private/Tests/*.cpp)

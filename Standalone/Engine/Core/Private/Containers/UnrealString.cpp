@@ -89,14 +89,14 @@ FString::FString(const TCHAR* Source) : Data(Source ? Source : TEXT("")) {}
 
 FString::FString(const ANSICHAR* Source)
 	: Data(Source ? FromUtf8(Source, static_cast<int32>(std::char_traits<ANSICHAR>::length(Source))) : std::u16string())
-{
-}
+{}
 
 FString::FString(int32 Count, const TCHAR* Source) : Data(Source, static_cast<SIZE_T>(Count)) {}
 
 TCHAR& FString::operator[](int32 Index)
 {
-	checkf(IsValidIndex(Index), TEXT("String index out of bounds: Index %i from a string with a length of %i"), Index, Len());
+	checkf(IsValidIndex(Index), TEXT("String index out of bounds: Index %i from a string with a length of %i"), Index,
+		Len());
 	return Data[static_cast<SIZE_T>(Index)];
 }
 
@@ -223,14 +223,14 @@ bool FString::Contains(const FString& SubStr, ESearchCase::Type SearchCase) cons
 
 bool FString::StartsWith(const FString& Prefix, ESearchCase::Type SearchCase) const
 {
-	return !Prefix.IsEmpty() && Prefix.Len() <= Len()
-		&& SameUnits(Data.data(), Prefix.Data.data(), Prefix.Len(), SearchCase);
+	return !Prefix.IsEmpty() && Prefix.Len() <= Len() &&
+		SameUnits(Data.data(), Prefix.Data.data(), Prefix.Len(), SearchCase);
 }
 
 bool FString::EndsWith(const FString& Suffix, ESearchCase::Type SearchCase) const
 {
-	return !Suffix.IsEmpty() && Suffix.Len() <= Len()
-		&& SameUnits(Data.data() + Len() - Suffix.Len(), Suffix.Data.data(), Suffix.Len(), SearchCase);
+	return !Suffix.IsEmpty() && Suffix.Len() <= Len() &&
+		SameUnits(Data.data() + Len() - Suffix.Len(), Suffix.Data.data(), Suffix.Len(), SearchCase);
 }
 
 FString FString::Replace(const TCHAR* From, const TCHAR* To, ESearchCase::Type SearchCase) const
@@ -438,7 +438,6 @@ FTCHARToUTF8::FTCHARToUTF8(const FString& Source) : Converted(ToUtf8(*Source, So
 
 FUTF8ToTCHAR::FUTF8ToTCHAR(const ANSICHAR* Source)
 	: Converted(FromUtf8(Source, static_cast<int32>(std::char_traits<ANSICHAR>::length(Source))))
-{
-}
+{}
 
 FUTF8ToTCHAR::FUTF8ToTCHAR(const ANSICHAR* Source, int32 Count) : Converted(FromUtf8(Source, Count)) {}

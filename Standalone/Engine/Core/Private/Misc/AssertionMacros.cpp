@@ -13,11 +13,12 @@ namespace
 	/** Tells scripts a fatal check from every other way to end. */
 	constexpr int FatalExitStatus = 3;
 
-	void PrintLine(const ANSICHAR* What, const ANSICHAR* Expression, const ANSICHAR* File, int32 Line, const FString& Message)
+	void PrintLine(
+		const ANSICHAR* What, const ANSICHAR* Expression, const ANSICHAR* File, int32 Line, const FString& Message)
 	{
 		std::fflush(nullptr);
-		std::fprintf(stderr, "%s: %s [File:%s] [Line: %d] \n%s%s", What, Expression, File, Line, TCHAR_TO_UTF8(*Message),
-			Message.IsEmpty() ? "" : "\n");
+		std::fprintf(stderr, "%s: %s [File:%s] [Line: %d] \n%s%s", What, Expression, File, Line,
+			TCHAR_TO_UTF8(*Message), Message.IsEmpty() ? "" : "\n");
 		std::fflush(stderr);
 	}
 }

@@ -11,10 +11,7 @@ namespace
 	class FNameTable
 	{
 	public:
-		FNameTable()
-		{
-			Add(TEXT("None"));
-		}
+		FNameTable() { Add(TEXT("None")); }
 		/** The spelling's number, or INDEX_NONE. */
 		int32 Find(const std::u16string& Spelling) const
 		{
@@ -22,10 +19,7 @@ namespace
 			return Found == BySpelling.end() ? static_cast<int32>(INDEX_NONE) : static_cast<int32>(Found->second);
 		}
 		/** True if the name is known in any spelling. */
-		bool IsKnown(const std::u16string& Spelling) const
-		{
-			return ByFolded.count(Fold(Spelling)) != 0;
-		}
+		bool IsKnown(const std::u16string& Spelling) const { return ByFolded.count(Fold(Spelling)) != 0; }
 		uint32 Add(const std::u16string& Spelling)
 		{
 			const uint32 NewIndex = static_cast<uint32>(Spellings.size());
@@ -34,14 +28,8 @@ namespace
 			BySpelling.emplace(Spelling, NewIndex);
 			return NewIndex;
 		}
-		const std::u16string& GetSpelling(uint32 Index) const
-		{
-			return Spellings[Index].Text;
-		}
-		uint32 GetComparison(uint32 Index) const
-		{
-			return Spellings[Index].Comparison;
-		}
+		const std::u16string& GetSpelling(uint32 Index) const { return Spellings[Index].Text; }
+		uint32 GetComparison(uint32 Index) const { return Spellings[Index].Comparison; }
 
 	private:
 		static std::u16string Fold(std::u16string Spelling)

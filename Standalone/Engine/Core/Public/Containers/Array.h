@@ -8,8 +8,8 @@
 #include <vector>
 
 /**
- * The engine's dynamic array over a standard vector. An index out of range is fatal. Elements are compared with their own
- * operator==, so an array of FString finds without regard to ASCII case.
+ * The engine's dynamic array over a standard vector. An index out of range is fatal. Elements are compared with their
+ * own operator==, so an array of FString finds without regard to ASCII case.
  */
 template <typename InElementType>
 class TArray
@@ -26,22 +26,10 @@ public:
 	TArray(std::initializer_list<ElementType> InitList) : Elements(InitList) {}
 	TArray(const ElementType* Ptr, int32 Count) : Elements(Ptr, Ptr + Count) {}
 
-	int32 Num() const
-	{
-		return static_cast<int32>(Elements.size());
-	}
-	bool IsValidIndex(int32 Index) const
-	{
-		return Index >= 0 && Index < Num();
-	}
-	ElementType* GetData()
-	{
-		return Elements.data();
-	}
-	const ElementType* GetData() const
-	{
-		return Elements.data();
-	}
+	int32 Num() const { return static_cast<int32>(Elements.size()); }
+	bool IsValidIndex(int32 Index) const { return Index >= 0 && Index < Num(); }
+	ElementType* GetData() { return Elements.data(); }
+	const ElementType* GetData() const { return Elements.data(); }
 	ElementType& operator[](int32 Index)
 	{
 		RangeCheck(Index);
@@ -53,14 +41,8 @@ public:
 		return Elements[static_cast<SIZE_T>(Index)];
 	}
 	/** The element that is IndexFromTheEnd places before the last one. */
-	const ElementType& Last(int32 IndexFromTheEnd = 0) const
-	{
-		return (*this)[Num() - IndexFromTheEnd - 1];
-	}
-	ElementType& Last(int32 IndexFromTheEnd = 0)
-	{
-		return (*this)[Num() - IndexFromTheEnd - 1];
-	}
+	const ElementType& Last(int32 IndexFromTheEnd = 0) const { return (*this)[Num() - IndexFromTheEnd - 1]; }
+	ElementType& Last(int32 IndexFromTheEnd = 0) { return (*this)[Num() - IndexFromTheEnd - 1]; }
 	int32 Add(const ElementType& Item)
 	{
 		Elements.push_back(Item);
@@ -145,28 +127,16 @@ public:
 	{
 		return const_cast<TArray*>(this)->FindByPredicate(Matches);
 	}
-	bool Contains(const ElementType& Item) const
-	{
-		return Find(Item) != INDEX_NONE;
-	}
+	bool Contains(const ElementType& Item) const { return Find(Item) != INDEX_NONE; }
 	template <typename Predicate>
 	bool ContainsByPredicate(Predicate Matches) const
 	{
 		return IndexOfByPredicate(Matches) != INDEX_NONE;
 	}
-	void Empty()
-	{
-		std::vector<ElementType>().swap(Elements);
-	}
+	void Empty() { std::vector<ElementType>().swap(Elements); }
 	/** Removes all elements and keeps the memory. */
-	void Reset()
-	{
-		Elements.clear();
-	}
-	void Reserve(int32 Number)
-	{
-		Elements.reserve(static_cast<SIZE_T>(Number));
-	}
+	void Reset() { Elements.clear(); }
+	void Reserve(int32 Number) { Elements.reserve(static_cast<SIZE_T>(Number)); }
 	/** Grows with default-constructed elements, or drops the last ones. */
 	void SetNum(int32 NewNum)
 	{
@@ -178,30 +148,12 @@ public:
 	{
 		std::stable_sort(Elements.begin(), Elements.end(), Less);
 	}
-	bool operator==(const TArray& Other) const
-	{
-		return Elements == Other.Elements;
-	}
-	bool operator!=(const TArray& Other) const
-	{
-		return !(*this == Other);
-	}
-	RangedForIteratorType begin()
-	{
-		return Elements.begin();
-	}
-	RangedForIteratorType end()
-	{
-		return Elements.end();
-	}
-	RangedForConstIteratorType begin() const
-	{
-		return Elements.begin();
-	}
-	RangedForConstIteratorType end() const
-	{
-		return Elements.end();
-	}
+	bool operator==(const TArray& Other) const { return Elements == Other.Elements; }
+	bool operator!=(const TArray& Other) const { return !(*this == Other); }
+	RangedForIteratorType begin() { return Elements.begin(); }
+	RangedForIteratorType end() { return Elements.end(); }
+	RangedForConstIteratorType begin() const { return Elements.begin(); }
+	RangedForConstIteratorType end() const { return Elements.end(); }
 
 private:
 	void RangeCheck(int32 Index) const

@@ -23,10 +23,7 @@ public:
 	typedef TPair<KeyType, ValueType> ElementType;
 
 	TMap() = default;
-	TMap(const TMap& Other)
-	{
-		*this = Other;
-	}
+	TMap(const TMap& Other) { *this = Other; }
 	TMap& operator=(const TMap& Other)
 	{
 		if (this != &Other)
@@ -39,10 +36,7 @@ public:
 		}
 		return *this;
 	}
-	int32 Num() const
-	{
-		return static_cast<int32>(Pairs.size());
-	}
+	int32 Num() const { return static_cast<int32>(Pairs.size()); }
 	/** Sets the key's value, replacing an earlier one in its place. */
 	ValueType& Add(const KeyType& Key, const ValueType& Value)
 	{
@@ -65,20 +59,14 @@ public:
 		const auto Found = Index.find(Key);
 		return Found == Index.end() ? nullptr : &Found->second->Value;
 	}
-	const ValueType* Find(const KeyType& Key) const
-	{
-		return const_cast<TMap*>(this)->Find(Key);
-	}
+	const ValueType* Find(const KeyType& Key) const { return const_cast<TMap*>(this)->Find(Key); }
 	/** The key's value, or a default-constructed one. */
 	ValueType FindRef(const KeyType& Key) const
 	{
 		const ValueType* Found = Find(Key);
 		return Found ? *Found : ValueType();
 	}
-	bool Contains(const KeyType& Key) const
-	{
-		return Find(Key) != nullptr;
-	}
+	bool Contains(const KeyType& Key) const { return Find(Key) != nullptr; }
 	ValueType& operator[](const KeyType& Key)
 	{
 		ValueType* Found = Find(Key);
@@ -102,30 +90,15 @@ public:
 		Index.clear();
 		Pairs.clear();
 	}
-	typename std::list<ElementType>::iterator begin()
-	{
-		return Pairs.begin();
-	}
-	typename std::list<ElementType>::iterator end()
-	{
-		return Pairs.end();
-	}
-	typename std::list<ElementType>::const_iterator begin() const
-	{
-		return Pairs.begin();
-	}
-	typename std::list<ElementType>::const_iterator end() const
-	{
-		return Pairs.end();
-	}
+	typename std::list<ElementType>::iterator begin() { return Pairs.begin(); }
+	typename std::list<ElementType>::iterator end() { return Pairs.end(); }
+	typename std::list<ElementType>::const_iterator begin() const { return Pairs.begin(); }
+	typename std::list<ElementType>::const_iterator end() const { return Pairs.end(); }
 
 private:
 	struct FKeyHash
 	{
-		SIZE_T operator()(const KeyType& Key) const
-		{
-			return GetTypeHash(Key);
-		}
+		SIZE_T operator()(const KeyType& Key) const { return GetTypeHash(Key); }
 	};
 
 	std::list<ElementType> Pairs;

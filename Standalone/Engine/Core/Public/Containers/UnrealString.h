@@ -41,8 +41,8 @@ struct CORE_API FChar
 /**
  * The engine's string: UTF-16 code units, possibly ill-formed, with any length.
  *
- * Operator == and < ignore the case of ASCII letters, and so do arrays and maps of strings; Equals and Compare are exact unless
- * asked otherwise.
+ * Operator == and < ignore the case of ASCII letters, and so do arrays and maps of strings; Equals and Compare are
+ * exact unless asked otherwise.
  */
 class CORE_API FString
 {
@@ -54,25 +54,13 @@ public:
 	/** The first Count units of Source. */
 	FString(int32 Count, const TCHAR* Source);
 
-	int32 Len() const
-	{
-		return static_cast<int32>(Data.size());
-	}
-	bool IsEmpty() const
-	{
-		return Data.empty();
-	}
+	int32 Len() const { return static_cast<int32>(Data.size()); }
+	bool IsEmpty() const { return Data.empty(); }
 	/** The units, closed by a zero. */
-	const TCHAR* operator*() const
-	{
-		return Data.c_str();
-	}
+	const TCHAR* operator*() const { return Data.c_str(); }
 	TCHAR& operator[](int32 Index);
 	const TCHAR& operator[](int32 Index) const;
-	bool IsValidIndex(int32 Index) const
-	{
-		return Index >= 0 && Index < Len();
-	}
+	bool IsValidIndex(int32 Index) const { return Index >= 0 && Index < Len(); }
 
 	FString& operator+=(const FString& Other);
 	FString& AppendChar(TCHAR Char);
@@ -83,14 +71,8 @@ public:
 	bool Equals(const FString& Other, ESearchCase::Type SearchCase = ESearchCase::CaseSensitive) const;
 	/** Below, equal to or above zero as this string sorts before, with or after the other, by units. */
 	int32 Compare(const FString& Other, ESearchCase::Type SearchCase = ESearchCase::CaseSensitive) const;
-	friend bool operator==(const FString& Lhs, const FString& Rhs)
-	{
-		return Lhs.Equals(Rhs, ESearchCase::IgnoreCase);
-	}
-	friend bool operator!=(const FString& Lhs, const FString& Rhs)
-	{
-		return !(Lhs == Rhs);
-	}
+	friend bool operator==(const FString& Lhs, const FString& Rhs) { return Lhs.Equals(Rhs, ESearchCase::IgnoreCase); }
+	friend bool operator!=(const FString& Lhs, const FString& Rhs) { return !(Lhs == Rhs); }
 	friend bool operator<(const FString& Lhs, const FString& Rhs)
 	{
 		return Lhs.Compare(Rhs, ESearchCase::IgnoreCase) < 0;
@@ -122,7 +104,8 @@ public:
 	void RemoveAt(int32 Index, int32 Count = 1);
 	void InsertAt(int32 Index, const FString& Characters);
 
-	/** Formats %s (TCHAR text), %hs (narrow text), %c, %d, %i, %u, %x, %lld, %llu, %f, %g and %%, with flags, width, precision. */
+	/** Formats %s (TCHAR text), %hs (narrow text), %c, %d, %i, %u, %x, %lld, %llu, %f, %g and %%, with flags, width,
+	 * precision. */
 	static FString Printf(const TCHAR* Format, ...);
 	static FString PrintfV(const TCHAR* Format, va_list Arguments);
 	static FString FromInt(int32 Number);
@@ -141,14 +124,8 @@ public:
 	explicit FTCHARToUTF8(const TCHAR* Source);
 	/** The whole string, embedded zeros included. */
 	explicit FTCHARToUTF8(const FString& Source);
-	const ANSICHAR* Get() const
-	{
-		return Converted.c_str();
-	}
-	int32 Length() const
-	{
-		return static_cast<int32>(Converted.size());
-	}
+	const ANSICHAR* Get() const { return Converted.c_str(); }
+	int32 Length() const { return static_cast<int32>(Converted.size()); }
 
 private:
 	std::string Converted;
@@ -160,14 +137,8 @@ class CORE_API FUTF8ToTCHAR
 public:
 	explicit FUTF8ToTCHAR(const ANSICHAR* Source);
 	FUTF8ToTCHAR(const ANSICHAR* Source, int32 Count);
-	const TCHAR* Get() const
-	{
-		return Converted.c_str();
-	}
-	int32 Length() const
-	{
-		return static_cast<int32>(Converted.size());
-	}
+	const TCHAR* Get() const { return Converted.c_str(); }
+	int32 Length() const { return static_cast<int32>(Converted.size()); }
 
 private:
 	std::u16string Converted;

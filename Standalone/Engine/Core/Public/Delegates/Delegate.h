@@ -11,22 +11,10 @@ public:
 	FDelegateHandle() = default;
 	/** A handle that no other binding of this process has. */
 	static FDelegateHandle GenerateNewHandle();
-	bool IsValid() const
-	{
-		return Id != 0;
-	}
-	void Reset()
-	{
-		Id = 0;
-	}
-	bool operator==(const FDelegateHandle& Other) const
-	{
-		return Id == Other.Id;
-	}
-	bool operator!=(const FDelegateHandle& Other) const
-	{
-		return !(*this == Other);
-	}
+	bool IsValid() const { return Id != 0; }
+	void Reset() { Id = 0; }
+	bool operator==(const FDelegateHandle& Other) const { return Id == Other.Id; }
+	bool operator!=(const FDelegateHandle& Other) const { return !(*this == Other); }
 
 private:
 	uint64 Id = 0;
@@ -36,8 +24,8 @@ template <typename Signature>
 class TDelegate;
 
 /**
- * A function with a fixed signature that is bound at run time, or none. Further arguments given at binding time (the payload) are
- * copied then and handed over after the call's own.
+ * A function with a fixed signature that is bound at run time, or none. Further arguments given at binding time (the
+ * payload) are copied then and handed over after the call's own.
  */
 template <typename Ret, typename... ParamTypes>
 class TDelegate<Ret(ParamTypes...)>
@@ -82,14 +70,8 @@ public:
 		return Make(DelegateInstances::MakeFunctor<Ret, ParamTypes...>(std::forward<FunctorType>(Functor), Vars...));
 	}
 
-	bool IsBound() const
-	{
-		return Instance.IsValid() && Instance->IsSafeToExecute();
-	}
-	void Unbind()
-	{
-		Instance.Reset();
-	}
+	bool IsBound() const { return Instance.IsValid() && Instance->IsSafeToExecute(); }
+	void Unbind() { Instance.Reset(); }
 	/** Fatal when unbound. */
 	Ret Execute(ParamTypes... Params) const
 	{
@@ -130,8 +112,8 @@ template <typename Signature>
 class TMulticastDelegate;
 
 /**
- * Any number of bindings of one signature. Broadcast calls the last added first; a binding that is removed meanwhile is not called
- * any more, one that is added meanwhile not yet.
+ * Any number of bindings of one signature. Broadcast calls the last added first; a binding that is removed meanwhile is
+ * not called any more, one that is added meanwhile not yet.
  */
 template <typename... ParamTypes>
 class TMulticastDelegate<void(ParamTypes...)>
@@ -259,6 +241,7 @@ typedef TMulticastDelegate<void()> FSimpleMulticastDelegate;
 #define DECLARE_DELEGATE_RetVal_OneParam(RetValType, DelegateName, Param1Type) \
 	typedef TDelegate<RetValType(Param1Type)> DelegateName;
 #define DECLARE_MULTICAST_DELEGATE(DelegateName) typedef TMulticastDelegate<void()> DelegateName;
-#define DECLARE_MULTICAST_DELEGATE_OneParam(DelegateName, Param1Type) typedef TMulticastDelegate<void(Param1Type)> DelegateName;
+#define DECLARE_MULTICAST_DELEGATE_OneParam(DelegateName, Param1Type) \
+	typedef TMulticastDelegate<void(Param1Type)> DelegateName;
 #define DECLARE_MULTICAST_DELEGATE_TwoParams(DelegateName, Param1Type, Param2Type) \
 	typedef TMulticastDelegate<void(Param1Type, Param2Type)> DelegateName;

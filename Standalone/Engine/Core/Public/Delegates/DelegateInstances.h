@@ -15,15 +15,9 @@ namespace DelegateInstances
 	public:
 		virtual ~TInstance() = default;
 		virtual Ret Execute(ParamTypes... Params) = 0;
-		virtual bool IsSafeToExecute() const
-		{
-			return true;
-		}
+		virtual bool IsSafeToExecute() const { return true; }
 		/** The object that RemoveAll and IsBoundToObject look for; null for functions. */
-		virtual const void* GetUserObject() const
-		{
-			return nullptr;
-		}
+		virtual const void* GetUserObject() const { return nullptr; }
 	};
 
 	/** The call's own arguments first, then the payload. */
@@ -53,17 +47,13 @@ namespace DelegateInstances
 	public:
 		TCallableInstance(const void* InUserObject, CalleeType InCallee, Tuple InPayload)
 			: UserObject(InUserObject), Callee(std::move(InCallee)), Payload(std::move(InPayload))
-		{
-		}
+		{}
 		virtual Ret Execute(ParamTypes... Params) override
 		{
 			return CallWithPayload<Ret>(Callee, Payload, std::make_index_sequence<std::tuple_size<Tuple>::value>(),
 				std::forward<ParamTypes>(Params)...);
 		}
-		virtual const void* GetUserObject() const override
-		{
-			return UserObject;
-		}
+		virtual const void* GetUserObject() const override { return UserObject; }
 
 	private:
 		const void* UserObject;
@@ -79,18 +69,15 @@ namespace DelegateInstances
 			: TCallableInstance<CalleeType, Tuple, Ret, ParamTypes...>(
 				  &InObject.Get(), std::move(InCallee), std::move(InPayload)),
 			  Object(InObject)
-		{
-		}
+		{}
 		virtual Ret Execute(ParamTypes... Params) override
 		{
 			// The object stays alive for the length of its own call.
 			const TSharedPtr<UserClass> Pinned = Object.Pin();
-			return TCallableInstance<CalleeType, Tuple, Ret, ParamTypes...>::Execute(std::forward<ParamTypes>(Params)...);
+			return TCallableInstance<CalleeType, Tuple, Ret, ParamTypes...>::Execute(
+				std::forward<ParamTypes>(Params)...);
 		}
-		virtual bool IsSafeToExecute() const override
-		{
-			return Object.IsValid();
-		}
+		virtual bool IsSafeToExecute() const override { return Object.IsValid(); }
 
 	private:
 		TWeakPtr<UserClass> Object;

@@ -17,10 +17,7 @@ struct CORE_API FLinearColor
 	{
 		return R == Other.R && G == Other.G && B == Other.B && A == Other.A;
 	}
-	constexpr bool operator!=(const FLinearColor& Other) const
-	{
-		return !(*this == Other);
-	}
+	constexpr bool operator!=(const FLinearColor& Other) const { return !(*this == Other); }
 	static const FLinearColor White;
 	static const FLinearColor Black;
 	static const FLinearColor Red;

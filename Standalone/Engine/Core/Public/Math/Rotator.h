@@ -16,9 +16,6 @@ struct CORE_API FRotator
 	{
 		return Pitch == Other.Pitch && Yaw == Other.Yaw && Roll == Other.Roll;
 	}
-	constexpr bool operator!=(const FRotator& Other) const
-	{
-		return !(*this == Other);
-	}
+	constexpr bool operator!=(const FRotator& Other) const { return !(*this == Other); }
 	static const FRotator ZeroRotator;
 };

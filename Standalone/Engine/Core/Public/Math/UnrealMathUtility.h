@@ -24,14 +24,8 @@ struct FMath
 		return X < Low ? Low : (X < High ? X : High);
 	}
 	/** To the nearest whole number, halves upwards. */
-	static int32 RoundToInt(float Value)
-	{
-		return static_cast<int32>(std::floor(Value + 0.5f));
-	}
-	static int32 CeilToInt(float Value)
-	{
-		return static_cast<int32>(std::ceil(Value));
-	}
+	static int32 RoundToInt(float Value) { return static_cast<int32>(std::floor(Value + 0.5f)); }
+	static int32 CeilToInt(float Value) { return static_cast<int32>(std::ceil(Value)); }
 	static bool IsNearlyEqual(float A, float B, float ErrorTolerance = 1.e-8f)
 	{
 		return std::fabs(A - B) <= ErrorTolerance;

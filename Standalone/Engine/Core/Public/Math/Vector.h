@@ -12,13 +12,7 @@ struct CORE_API FVector
 
 	constexpr FVector() = default;
 	constexpr FVector(float InX, float InY, float InZ) : X(InX), Y(InY), Z(InZ) {}
-	constexpr bool operator==(const FVector& Other) const
-	{
-		return X == Other.X && Y == Other.Y && Z == Other.Z;
-	}
-	constexpr bool operator!=(const FVector& Other) const
-	{
-		return !(*this == Other);
-	}
+	constexpr bool operator==(const FVector& Other) const { return X == Other.X && Y == Other.Y && Z == Other.Z; }
+	constexpr bool operator!=(const FVector& Other) const { return !(*this == Other); }
 	static const FVector ZeroVector;
 };

@@ -11,21 +11,9 @@ struct CORE_API FVector2D
 
 	constexpr FVector2D() = default;
 	constexpr FVector2D(float InX, float InY) : X(InX), Y(InY) {}
-	constexpr FVector2D operator+(const FVector2D& Other) const
-	{
-		return FVector2D(X + Other.X, Y + Other.Y);
-	}
-	constexpr FVector2D operator-(const FVector2D& Other) const
-	{
-		return FVector2D(X - Other.X, Y - Other.Y);
-	}
-	constexpr bool operator==(const FVector2D& Other) const
-	{
-		return X == Other.X && Y == Other.Y;
-	}
-	constexpr bool operator!=(const FVector2D& Other) const
-	{
-		return !(*this == Other);
-	}
+	constexpr FVector2D operator+(const FVector2D& Other) const { return FVector2D(X + Other.X, Y + Other.Y); }
+	constexpr FVector2D operator-(const FVector2D& Other) const { return FVector2D(X - Other.X, Y - Other.Y); }
+	constexpr bool operator==(const FVector2D& Other) const { return X == Other.X && Y == Other.Y; }
+	constexpr bool operator!=(const FVector2D& Other) const { return !(*this == Other); }
 	static const FVector2D ZeroVector;
 };

@@ -4,17 +4,18 @@
 #include "CoreTypes.h"
 
 /**
- * Where failed assertions go. `check` is fatal: it prints the engine's line on standard error and ends the process with exit
- * status 3. `ensure` reports once per call site and goes on.
+ * Where failed assertions go. `check` is fatal: it prints the engine's line on standard error and ends the process with
+ * exit status 3. `ensure` reports once per call site and goes on.
  *
  * These macros break third-party headers that use the same words: include those first.
  */
 struct CORE_API FDebug
 {
 	/** Prints the fatal line and ends the process. Message may be null. */
-	[[noreturn]] static void CheckVerifyFailed(const ANSICHAR* Expression, const ANSICHAR* File, int32 Line, const TCHAR* Message,
-		...);
-	/** Prints the ensure's line and tells the listeners of FEnsureReports. Always false, so that it can end a condition. */
+	[[noreturn]] static void CheckVerifyFailed(
+		const ANSICHAR* Expression, const ANSICHAR* File, int32 Line, const TCHAR* Message, ...);
+	/** Prints the ensure's line and tells the listeners of FEnsureReports. Always false, so that it can end a
+	 * condition. */
 	static bool EnsureFailed(const ANSICHAR* Expression, const ANSICHAR* File, int32 Line, const TCHAR* Message, ...);
 };
 

@@ -13,16 +13,14 @@ public:
 
 	TAttribute() = default;
 	template <typename OtherType,
-		typename = typename std::enable_if<std::is_convertible<OtherType, ObjectType>::value
-			&& !std::is_base_of<TAttribute, typename std::decay<OtherType>::type>::value>::type>
+		typename = typename std::enable_if<std::is_convertible<OtherType, ObjectType>::value &&
+			!std::is_base_of<TAttribute, typename std::decay<OtherType>::type>::value>::type>
 	TAttribute(const OtherType& InInitialValue) : Value(InInitialValue), bIsSet(true)
-	{
-	}
+	{}
 	template <typename SourceType, typename MethodType>
 	TAttribute(const TSharedRef<SourceType>& InUserObject, MethodType InMethod)
 		: bIsSet(true), Getter(FGetter::CreateSP(InUserObject, InMethod))
-	{
-	}
+	{}
 
 	static TAttribute Create(const FGetter& InGetter)
 	{
@@ -40,18 +38,9 @@ public:
 		}
 		return Value;
 	}
-	ObjectType Get(const ObjectType& DefaultValue) const
-	{
-		return bIsSet ? Get() : DefaultValue;
-	}
-	bool IsSet() const
-	{
-		return bIsSet;
-	}
-	bool IsBound() const
-	{
-		return Getter.IsBound();
-	}
+	ObjectType Get(const ObjectType& DefaultValue) const { return bIsSet ? Get() : DefaultValue; }
+	bool IsSet() const { return bIsSet; }
+	bool IsBound() const { return Getter.IsBound(); }
 
 private:
 	mutable ObjectType Value = ObjectType();

@@ -24,10 +24,7 @@ public:
 			Emplace(Other.GetValue());
 		}
 	}
-	~TOptional()
-	{
-		Reset();
-	}
+	~TOptional() { Reset(); }
 	TOptional& operator=(const TOptional& Other)
 	{
 		if (this != &Other)
@@ -40,10 +37,7 @@ public:
 		}
 		return *this;
 	}
-	TOptional& operator=(const OptionalType& InValue)
-	{
-		return *this = TOptional(InValue);
-	}
+	TOptional& operator=(const OptionalType& InValue) { return *this = TOptional(InValue); }
 	template <typename... ArgTypes>
 	void Emplace(ArgTypes&&... Args)
 	{
@@ -59,23 +53,14 @@ public:
 			reinterpret_cast<OptionalType*>(&Storage)->~OptionalType();
 		}
 	}
-	bool IsSet() const
-	{
-		return bIsSet;
-	}
+	bool IsSet() const { return bIsSet; }
 	const OptionalType& GetValue() const
 	{
 		checkf(bIsSet, TEXT("An unset optional value was read"));
 		return *reinterpret_cast<const OptionalType*>(&Storage);
 	}
-	OptionalType& GetValue()
-	{
-		return const_cast<OptionalType&>(static_cast<const TOptional*>(this)->GetValue());
-	}
-	const OptionalType& Get(const OptionalType& DefaultValue) const
-	{
-		return bIsSet ? GetValue() : DefaultValue;
-	}
+	OptionalType& GetValue() { return const_cast<OptionalType&>(static_cast<const TOptional*>(this)->GetValue()); }
+	const OptionalType& Get(const OptionalType& DefaultValue) const { return bIsSet ? GetValue() : DefaultValue; }
 
 private:
 	alignas(OptionalType) unsigned char Storage[sizeof(OptionalType)];

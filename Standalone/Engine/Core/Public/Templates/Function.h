@@ -24,19 +24,18 @@ class TFunctionRef<Ret(ParamTypes...)>
 public:
 	// Not for another reference: that is copied, so that it does not refer to the reference.
 	template <typename FunctorType,
-		typename = typename std::enable_if<!std::is_same<typename std::decay<FunctorType>::type, TFunctionRef>::value>::type>
+		typename =
+			typename std::enable_if<!std::is_same<typename std::decay<FunctorType>::type, TFunctionRef>::value>::type>
 	TFunctionRef(FunctorType&& Functor)
 		: Object(const_cast<void*>(static_cast<const void*>(&Functor))),
-		  Caller([](void* Callee, ParamTypes... Params) -> Ret {
-			  return (*static_cast<typename std::remove_reference<FunctorType>::type*>(Callee))(
-				  static_cast<ParamTypes&&>(Params)...);
-		  })
-	{
-	}
-	Ret operator()(ParamTypes... Params) const
-	{
-		return Caller(Object, static_cast<ParamTypes&&>(Params)...);
-	}
+		  Caller(
+			  [](void* Callee, ParamTypes... Params) -> Ret
+			  {
+				  return (*static_cast<typename std::remove_reference<FunctorType>::type*>(Callee))(
+					  static_cast<ParamTypes&&>(Params)...);
+			  })
+	{}
+	Ret operator()(ParamTypes... Params) const { return Caller(Object, static_cast<ParamTypes&&>(Params)...); }
 
 private:
 	void* Object;

@@ -8,8 +8,8 @@
 #include <memory>
 
 /**
- * @file The engine's shared pointers over the standard ones. TSharedRef is never null, TSharedPtr may be, TWeakPtr does not keep
- * alive. Following a null pointer is fatal.
+ * @file The engine's shared pointers over the standard ones. TSharedRef is never null, TSharedPtr may be, TWeakPtr does
+ * not keep alive. Following a null pointer is fatal.
  */
 
 /** How reference counts are kept. Both are thread-safe here; the engine's default is not. */
@@ -50,35 +50,22 @@ public:
 	explicit TSharedPtr(const FInner& InPointer) : Pointer(InPointer) {}
 	template <typename OtherType>
 	explicit TSharedPtr(OtherType* InObject) : Pointer(InObject)
-	{
-	}
+	{}
 	template <typename OtherType>
 	TSharedPtr(const FRawPtrProxy<OtherType>& Proxy) : Pointer(Proxy.Object)
-	{
-	}
+	{}
 	template <typename OtherType,
 		typename = typename std::enable_if<std::is_convertible<OtherType*, ObjectType*>::value>::type>
 	TSharedPtr(const TSharedPtr<OtherType, Mode>& Other) : Pointer(Other.GetInner())
-	{
-	}
+	{}
 	template <typename OtherType,
 		typename = typename std::enable_if<std::is_convertible<OtherType*, ObjectType*>::value>::type>
 	TSharedPtr(const TSharedRef<OtherType, Mode>& Other) : Pointer(Other.GetInner())
-	{
-	}
+	{}
 
-	ObjectType* Get() const
-	{
-		return Pointer.get();
-	}
-	bool IsValid() const
-	{
-		return Pointer != nullptr;
-	}
-	explicit operator bool() const
-	{
-		return IsValid();
-	}
+	ObjectType* Get() const { return Pointer.get(); }
+	bool IsValid() const { return Pointer != nullptr; }
+	explicit operator bool() const { return IsValid(); }
 	ObjectType* operator->() const
 	{
 		check(IsValid());
@@ -89,10 +76,7 @@ public:
 		check(IsValid());
 		return *Pointer;
 	}
-	void Reset()
-	{
-		Pointer.reset();
-	}
+	void Reset() { Pointer.reset(); }
 	/** The same object as a reference that cannot be null; fatal when null. */
 	TSharedRef<ObjectType, Mode> ToSharedRef() const
 	{
@@ -100,18 +84,9 @@ public:
 		return TSharedRef<ObjectType, Mode>(Pointer);
 	}
 	/** True while exactly one shared pointer or reference holds the object. */
-	bool IsUnique() const
-	{
-		return Pointer.use_count() == 1;
-	}
-	int32 GetSharedReferenceCount() const
-	{
-		return static_cast<int32>(Pointer.use_count());
-	}
-	const FInner& GetInner() const
-	{
-		return Pointer;
-	}
+	bool IsUnique() const { return Pointer.use_count() == 1; }
+	int32 GetSharedReferenceCount() const { return static_cast<int32>(Pointer.use_count()); }
+	const FInner& GetInner() const { return Pointer; }
 
 private:
 	FInner Pointer;
@@ -123,51 +98,27 @@ class TSharedRef
 public:
 	typedef std::shared_ptr<ObjectType> FInner;
 
-	explicit TSharedRef(const FInner& InPointer) : Pointer(InPointer)
-	{
-		check(Pointer != nullptr);
-	}
+	explicit TSharedRef(const FInner& InPointer) : Pointer(InPointer) { check(Pointer != nullptr); }
 	template <typename OtherType>
 	explicit TSharedRef(OtherType* InObject) : TSharedRef(FInner(InObject))
-	{
-	}
+	{}
 	template <typename OtherType>
 	TSharedRef(const FRawPtrProxy<OtherType>& Proxy) : TSharedRef(FInner(Proxy.Object))
-	{
-	}
+	{}
 	template <typename OtherType,
 		typename = typename std::enable_if<std::is_convertible<OtherType*, ObjectType*>::value>::type>
 	TSharedRef(const TSharedRef<OtherType, Mode>& Other) : Pointer(Other.GetInner())
-	{
-	}
+	{}
 	// A moved-from reference would be null: moving copies.
 	TSharedRef(const TSharedRef& Other) = default;
 	TSharedRef& operator=(const TSharedRef& Other) = default;
 
-	ObjectType& Get() const
-	{
-		return *Pointer;
-	}
-	ObjectType* operator->() const
-	{
-		return Pointer.get();
-	}
-	ObjectType& operator*() const
-	{
-		return *Pointer;
-	}
-	bool IsUnique() const
-	{
-		return Pointer.use_count() == 1;
-	}
-	int32 GetSharedReferenceCount() const
-	{
-		return static_cast<int32>(Pointer.use_count());
-	}
-	const FInner& GetInner() const
-	{
-		return Pointer;
-	}
+	ObjectType& Get() const { return *Pointer; }
+	ObjectType* operator->() const { return Pointer.get(); }
+	ObjectType& operator*() const { return *Pointer; }
+	bool IsUnique() const { return Pointer.use_count() == 1; }
+	int32 GetSharedReferenceCount() const { return static_cast<int32>(Pointer.use_count()); }
+	const FInner& GetInner() const { return Pointer; }
 
 private:
 	FInner Pointer;
@@ -181,33 +132,18 @@ public:
 	TWeakPtr(std::nullptr_t) {}
 	template <typename OtherType>
 	TWeakPtr(const TSharedPtr<OtherType, Mode>& Other) : Pointer(Other.GetInner())
-	{
-	}
+	{}
 	template <typename OtherType>
 	TWeakPtr(const TSharedRef<OtherType, Mode>& Other) : Pointer(Other.GetInner())
-	{
-	}
+	{}
 	template <typename OtherType>
 	TWeakPtr(const TWeakPtr<OtherType, Mode>& Other) : Pointer(Other.GetInner())
-	{
-	}
+	{}
 	/** The object while somebody keeps it alive, else null. */
-	TSharedPtr<ObjectType, Mode> Pin() const
-	{
-		return TSharedPtr<ObjectType, Mode>(Pointer.lock());
-	}
-	bool IsValid() const
-	{
-		return !Pointer.expired();
-	}
-	void Reset()
-	{
-		Pointer.reset();
-	}
-	const std::weak_ptr<ObjectType>& GetInner() const
-	{
-		return Pointer;
-	}
+	TSharedPtr<ObjectType, Mode> Pin() const { return TSharedPtr<ObjectType, Mode>(Pointer.lock()); }
+	bool IsValid() const { return !Pointer.expired(); }
+	void Reset() { Pointer.reset(); }
+	const std::weak_ptr<ObjectType>& GetInner() const { return Pointer; }
 
 private:
 	std::weak_ptr<ObjectType> Pointer;
@@ -260,10 +196,7 @@ template <typename ObjectType, ESPMode Mode = ESPMode::Fast>
 class TSharedFromThis : public std::enable_shared_from_this<ObjectType>
 {
 public:
-	TSharedRef<ObjectType, Mode> AsShared()
-	{
-		return TSharedRef<ObjectType, Mode>(this->shared_from_this());
-	}
+	TSharedRef<ObjectType, Mode> AsShared() { return TSharedRef<ObjectType, Mode>(this->shared_from_this()); }
 	TSharedRef<const ObjectType, Mode> AsShared() const
 	{
 		return TSharedRef<const ObjectType, Mode>(this->shared_from_this());

@@ -15,42 +15,20 @@ public:
 	explicit TUniquePtr(T* Object) : Pointer(Object) {}
 	template <typename U>
 	TUniquePtr(TUniquePtr<U>&& Other) : Pointer(Other.Release())
-	{
-	}
+	{}
 	template <typename U>
 	TUniquePtr& operator=(TUniquePtr<U>&& Other)
 	{
 		Pointer.reset(Other.Release());
 		return *this;
 	}
-	T* Get() const
-	{
-		return Pointer.get();
-	}
-	T* Release()
-	{
-		return Pointer.release();
-	}
-	void Reset(T* Object = nullptr)
-	{
-		Pointer.reset(Object);
-	}
-	bool IsValid() const
-	{
-		return Pointer != nullptr;
-	}
-	explicit operator bool() const
-	{
-		return IsValid();
-	}
-	T* operator->() const
-	{
-		return Pointer.get();
-	}
-	T& operator*() const
-	{
-		return *Pointer;
-	}
+	T* Get() const { return Pointer.get(); }
+	T* Release() { return Pointer.release(); }
+	void Reset(T* Object = nullptr) { Pointer.reset(Object); }
+	bool IsValid() const { return Pointer != nullptr; }
+	explicit operator bool() const { return IsValid(); }
+	T* operator->() const { return Pointer.get(); }
+	T& operator*() const { return *Pointer; }
 
 private:
 	std::unique_ptr<T> Pointer;

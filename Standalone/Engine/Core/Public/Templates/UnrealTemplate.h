@@ -20,14 +20,8 @@ template <typename T>
 class TGuardValue
 {
 public:
-	TGuardValue(T& InVariable, const T& NewValue) : Variable(InVariable), OldValue(InVariable)
-	{
-		Variable = NewValue;
-	}
-	~TGuardValue()
-	{
-		Variable = OldValue;
-	}
+	TGuardValue(T& InVariable, const T& NewValue) : Variable(InVariable), OldValue(InVariable) { Variable = NewValue; }
+	~TGuardValue() { Variable = OldValue; }
 	TGuardValue(const TGuardValue&) = delete;
 	TGuardValue& operator=(const TGuardValue&) = delete;
 

@@ -23,8 +23,8 @@ enum
 };
 
 /**
- * A name in the process-wide name table. Comparison is by number and ignores the case of ASCII letters; each instance keeps the
- * spelling that it was made with. A trailing "_<digits>" without leading zero is stored as a number.
+ * A name in the process-wide name table. Comparison is by number and ignores the case of ASCII letters; each instance
+ * keeps the spelling that it was made with. A trailing "_<digits>" without leading zero is stored as a number.
  */
 class CORE_API FName
 {
@@ -36,34 +36,21 @@ public:
 	/** The plain name of another one with a number of its own; InNumber is the shown number plus one, 0 for none. */
 	FName(const FName& Other, int32 InNumber)
 		: ComparisonIndex(Other.ComparisonIndex), DisplayIndex(Other.DisplayIndex), Number(InNumber)
-	{
-	}
+	{}
 
-	bool IsNone() const
-	{
-		return ComparisonIndex == 0 && Number == 0;
-	}
+	bool IsNone() const { return ComparisonIndex == 0 && Number == 0; }
 	/** As this instance was spelled, number included; "None" for none. */
 	FString ToString() const;
 	FString GetPlainNameString() const;
 	/** The stored number: the shown one plus one, or 0 for none. */
-	int32 GetNumber() const
-	{
-		return Number;
-	}
+	int32 GetNumber() const { return Number; }
 	bool operator==(const FName& Other) const
 	{
 		return ComparisonIndex == Other.ComparisonIndex && Number == Other.Number;
 	}
-	bool operator!=(const FName& Other) const
-	{
-		return !(*this == Other);
-	}
+	bool operator!=(const FName& Other) const { return !(*this == Other); }
 	/** Alphabetical, ignoring case. */
-	bool LexicalLess(const FName& Other) const
-	{
-		return ToString() < Other.ToString();
-	}
+	bool LexicalLess(const FName& Other) const { return ToString() < Other.ToString(); }
 	friend uint32 GetTypeHash(const FName& Name)
 	{
 		return Name.ComparisonIndex * 31u + static_cast<uint32>(Name.Number);
