@@ -12,7 +12,7 @@ namespace
 	int NumRegistered = 0;
 	int NumRegisteredAgain = 0;
 
-	/** Asks this program for the spec that fails, which is no part of a plain run. */
+	/** Asks this program for the automation spec that fails, which is no part of a plain run. */
 	constexpr const char* FailingSwitch = "--with-failing-spec";
 
 	/** Runs this program for the cases of one suite. */

@@ -36,7 +36,7 @@ struct FAutomationTestExecutionInfo
 /** One case that can be run: an It of a spec. */
 struct FAutomationTestInfo
 {
-	/** The spec's name, as "Quillon.Wizard". */
+	/** The automation spec's name, as "Quillon.Wizard". */
 	FString SuiteName;
 	/** The case's whole sentence, as "Creation should fail without a name". */
 	FString CaseName;
@@ -113,13 +113,12 @@ public:
 
 	virtual void GetTests(TArray<FAutomationTestInfo>& OutCases) override;
 
-	/** The spec's name, as "Quillon.Wizard". */
+	/** The automation spec's name, as "Quillon.Wizard". */
 	virtual FString GetBeautifiedTestName() const = 0;
 	virtual FString GetTestSourceFileName() const = 0;
 
 protected:
-	/** Says what the spec consists of, by the four operations below. Called once, when the spec is first listed or run.
-	 */
+	/** Says what the cases are, by the four operations below. Called once, when they are first listed or run. */
 	virtual void Define() = 0;
 
 	/** Groups cases; may be nested. DoWork is called at once. */
