@@ -114,7 +114,7 @@ TEST_F(FTextLocalizationManagerTest, ManySwapsNeverLeaveAnOldText)
 	}
 }
 
-#ifdef NDEBUG
+#ifndef __SANITIZE_ADDRESS__
 TEST_F(FTextLocalizationManagerTest, UnchangedTextCostsNoAllocation)
 {
 	LOCTEXT("Allocated", "A text that is too long for a string's own small buffer").ToString();
