@@ -17,14 +17,11 @@ namespace
 TEST(TArray, IndexOutOfRangeIsFatal)
 {
 	TArray<int32> Numbers = {1, 2};
-	// Volatile: the compiler warns of an index that it knows, for it does not see that the check ends the program.
-	const volatile int32 Outside = 3;
 	EXPECT_EXIT(Numbers[2] = 0, ::testing::ExitedWithCode(3),
 		"Assertion failed: .* \\[File:.*Array.h\\] \\[Line: [0-9]+\\] \nArray index out of bounds: 2 from an array of size 2");
 	EXPECT_EXIT(Numbers[-1] = 0, ::testing::ExitedWithCode(3), "out of bounds: -1");
 	EXPECT_EXIT(TArray<int32>().Last() = 0, ::testing::ExitedWithCode(3), "out of bounds");
 	EXPECT_EXIT(Numbers.RemoveAt(1, 2), ::testing::ExitedWithCode(3), "Assertion failed");
-	EXPECT_EXIT(Numbers.Insert(0, Outside), ::testing::ExitedWithCode(3), "Assertion failed");
 }
 
 TEST(TArray, AddReturnsTheIndex)
@@ -53,14 +50,6 @@ TEST(TArray, RemoveTakesEveryEqualElementEvenItsOwn)
 	EXPECT_EQ(Numbers, (TArray<int32>{2, 3}));
 }
 
-TEST(TArray, InsertPutsBefore)
-{
-	TArray<int32> Numbers = {1, 3};
-	EXPECT_EQ(Numbers.Insert(2, 1), 1);
-	EXPECT_EQ(Numbers.Insert(4, 3), 3);
-	EXPECT_EQ(Numbers, (TArray<int32>{1, 2, 3, 4}));
-}
-
 TEST(TArray, FindsByPredicate)
 {
 	TArray<int32> Numbers = {1, 4, 6};
@@ -72,13 +61,6 @@ TEST(TArray, FindsByPredicate)
 	EXPECT_EQ(Numbers.IndexOfByPredicate(IsBig), INDEX_NONE);
 	EXPECT_EQ(Numbers.FindByPredicate(IsBig), nullptr);
 	EXPECT_FALSE(Numbers.ContainsByPredicate(IsBig));
-}
-
-TEST(TArray, PopReturnsTheLast)
-{
-	TArray<int32> Numbers = {1, 2};
-	EXPECT_EQ(Numbers.Pop(), 2);
-	EXPECT_EQ(Numbers.Num(), 1);
 }
 
 RC_GTEST_PROP(TArrayProperty, RemoveAllKeepsTheOrderOfTheOthers, (const std::vector<int>& Values))

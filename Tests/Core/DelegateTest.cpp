@@ -240,6 +240,21 @@ TEST(TMulticastDelegate, SkipsBindingsWhoseObjectIsGone)
 	EXPECT_EQ(Other.Numbers, std::vector<int32>{3});
 }
 
+TEST(TMulticastDelegate, CountsTheBindingsThatWouldBeCalled)
+{
+	TMulticastDelegate<void(int32)> Delegate;
+	EXPECT_EQ(Delegate.GetBindingCount(), 0);
+	TSharedPtr<FListener> Listener = MakeShared<FListener>();
+	FListener Other;
+	const FDelegateHandle Handle = Delegate.AddRaw(&Other, &FListener::Take);
+	Delegate.AddSP(Listener.ToSharedRef(), &FListener::Take);
+	EXPECT_EQ(Delegate.GetBindingCount(), 2);
+	Listener.Reset();
+	EXPECT_EQ(Delegate.GetBindingCount(), 1);
+	Delegate.Remove(Handle);
+	EXPECT_EQ(Delegate.GetBindingCount(), 0);
+}
+
 TEST(FDelegateHandle, IsInvalidUntilABindingGaveIt)
 {
 	FDelegateHandle Handle;

@@ -12,23 +12,12 @@ TEST(FMath, RoundsHalvesUpwards)
 	EXPECT_EQ(FMath::RoundToInt(0.5f), 1);
 	EXPECT_EQ(FMath::RoundToInt(-0.5f), 0);
 	EXPECT_EQ(FMath::RoundToInt(-0.6f), -1);
-	EXPECT_EQ(FMath::CeilToInt(1.1f), 2);
-	EXPECT_EQ(FMath::CeilToInt(-1.1f), -1);
 }
 
-TEST(FMath, ClampsToBothEnds)
+TEST(FMath, TellsTheSmallerFromTheGreater)
 {
-	EXPECT_EQ(FMath::Clamp(5, 1, 3), 3);
-	EXPECT_EQ(FMath::Clamp(0, 1, 3), 1);
-	EXPECT_EQ(FMath::Clamp(2, 1, 3), 2);
 	EXPECT_EQ(FMath::Min(1, 2), 1);
 	EXPECT_EQ(FMath::Max(1, 2), 2);
-}
-
-TEST(FMath, NearlyEqualHasATolerance)
-{
-	EXPECT_TRUE(FMath::IsNearlyEqual(1.0f, 1.05f, 0.1f));
-	EXPECT_FALSE(FMath::IsNearlyEqual(1.0f, 1.2f, 0.1f));
 }
 
 TEST(FVector, ComparesEachComponent)

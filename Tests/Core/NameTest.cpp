@@ -88,6 +88,24 @@ TEST(FName, LongestNameIs1023Units)
 		FName(*(Longest + TEXT("x"))), ::testing::ExitedWithCode(3), "Assertion failed: .*\n.*max length exceeded");
 }
 
+TEST(FName, SplitsACodesNameIntoWords)
+{
+	EXPECT_EQ(Utf8(FName::NameToDisplayString(TEXT("ActorLocation"), false)), "Actor Location");
+	EXPECT_EQ(Utf8(FName::NameToDisplayString(TEXT("SceneCapture2D"), false)), "Scene Capture 2D");
+	EXPECT_EQ(Utf8(FName::NameToDisplayString(TEXT("HTTPOutput"), false)), "HTTPOutput");
+	EXPECT_EQ(Utf8(FName::NameToDisplayString(TEXT("use_the_size"), false)), "Use The Size");
+	EXPECT_EQ(Utf8(FName::NameToDisplayString(TEXT("_Hidden__A"), false)), "Hidden A");
+	EXPECT_EQ(Utf8(FName::NameToDisplayString(TEXT(""), true)), "");
+}
+
+TEST(FName, DropsTheMarkOfABoolOnlyFromABoolsName)
+{
+	EXPECT_EQ(Utf8(FName::NameToDisplayString(TEXT("bIsActive"), true)), "Is Active");
+	EXPECT_EQ(Utf8(FName::NameToDisplayString(TEXT("bIsActive"), false)), "B Is Active");
+	EXPECT_EQ(Utf8(FName::NameToDisplayString(TEXT("blocked"), true)), "Blocked");
+	EXPECT_EQ(Utf8(FName::NameToDisplayString(TEXT("b"), true)), "B");
+}
+
 RC_GTEST_PROP(FNameProperty, ReadsBackAsItWasWritten, ())
 {
 	const std::string Text =

@@ -20,28 +20,11 @@ namespace
 	}
 }
 
-TEST(FPaths, CombineJoinsWithOneSlashEach)
-{
-	EXPECT_EQ(Utf8(FPaths::Combine(TEXT("a"), FString(TEXT("b/")), TEXT("c.txt"))), "a/b/c.txt");
-	EXPECT_EQ(Utf8(FPaths::Combine(TEXT("/root"), TEXT(""), TEXT("x"))), "/root/x");
-	EXPECT_EQ(Utf8(FPaths::Combine(TEXT(""), TEXT("x"))), "x");
-}
-
-TEST(FPaths, TakesPathsApart)
+TEST(FPaths, GivesTheFolderThatAPathIsIn)
 {
 	EXPECT_EQ(Utf8(FPaths::GetPath(TEXT("a/b/c.txt"))), "a/b");
 	EXPECT_EQ(Utf8(FPaths::GetPath(TEXT("c.txt"))), "");
 	EXPECT_EQ(Utf8(FPaths::GetPath(TEXT("a\\b"))), "a");
-	EXPECT_EQ(Utf8(FPaths::GetCleanFilename(TEXT("a/b/c.txt"))), "c.txt");
-	EXPECT_EQ(Utf8(FPaths::GetCleanFilename(TEXT("a/b/"))), "");
-}
-
-TEST(FPaths, BaseFilenameLosesTheLastExtension)
-{
-	EXPECT_EQ(Utf8(FPaths::GetBaseFilename(TEXT("a.d/b.tar.gz"))), "b.tar");
-	EXPECT_EQ(Utf8(FPaths::GetBaseFilename(TEXT("a.d/b"))), "b");
-	EXPECT_EQ(Utf8(FPaths::GetBaseFilename(TEXT("a.d/b.txt"), false)), "a.d/b");
-	EXPECT_EQ(Utf8(FPaths::GetBaseFilename(TEXT("a.d/b"), false)), "a.d/b");
 }
 
 TEST(FPaths, TellsFilesFromFolders)

@@ -170,13 +170,6 @@ TEST(FString, FindsTheLastMatchFromTheEnd)
 	EXPECT_EQ(FString(TEXT("abcabc")).Find(TEXT("bc"), ESearchCase::IgnoreCase, ESearchDir::FromEnd, 4), 1);
 }
 
-TEST(FString, TrimsWhitespaceButNoNoBreakSpaces)
-{
-	EXPECT_EQ(Utf8(FString(TEXT(" \t a b\r\n")).TrimStartAndEnd()), "a b");
-	EXPECT_EQ(FString(TEXT(" \u00A0 ")).TrimStartAndEnd().Len(), 1);
-	EXPECT_TRUE(FString(TEXT("  ")).TrimStartAndEnd().IsEmpty());
-}
-
 TEST(FString, FormatsTheEnginesConversions)
 {
 	EXPECT_EQ(
@@ -227,32 +220,6 @@ RC_GTEST_PROP(FStringProperty, ReplaceByItselfChangesNothing, ())
 	const FString Text = FromUtf8(*GenLetters());
 	const FString Part = FromUtf8(*rc::gen::nonEmpty(GenLetters()));
 	RC_ASSERT(Text.Replace(*Part, *Part, ESearchCase::CaseSensitive).Equals(Text));
-}
-
-RC_GTEST_PROP(FStringProperty, PartsJoinedByTheirDelimiterAreTheWhole, ())
-{
-	const FString Text = FromUtf8(*GenLetters());
-	TArray<FString> Parts;
-	const int32 NumParts = Text.ParseIntoArray(Parts, TEXT("/"), false);
-	RC_ASSERT(NumParts == Parts.Num());
-	FString Joined;
-	for (int32 Index = 0; Index < Parts.Num(); ++Index)
-	{
-		RC_ASSERT(!Parts[Index].Contains(TEXT("/")));
-		Joined += Index == 0 ? Parts[Index] : TEXT("/") + Parts[Index];
-	}
-	RC_ASSERT(Joined.Equals(Text));
-}
-
-RC_GTEST_PROP(FStringProperty, CulledPartsAreThoseThatHoldSomething, ())
-{
-	const FString Text = FromUtf8(*GenLetters());
-	TArray<FString> All;
-	TArray<FString> Culled;
-	Text.ParseIntoArray(All, TEXT("/"), false);
-	Text.ParseIntoArray(Culled, TEXT("/"));
-	All.RemoveAll([](const FString& Part) { return Part.IsEmpty(); });
-	RC_ASSERT(All == Culled);
 }
 
 RC_GTEST_PROP(FStringProperty, EqualStringsHaveEqualHashes, ())

@@ -109,6 +109,18 @@ TEST(FText, EqualToTakesComposedAndDecomposedLettersForOne)
 	EXPECT_TRUE(FText::FromString(TEXT("\u00F4")).EqualTo(FText::FromString(TEXT("o\u0302"))));
 }
 
+TEST(FText, ComparesByCollationNotByUnits)
+{
+	const auto Compare = [](const TCHAR* Left, const TCHAR* Right)
+	{ return FText::FromString(Left).CompareTo(FText::FromString(Right)); };
+	EXPECT_LT(Compare(TEXT("apple"), TEXT("Banana")), 0);
+	EXPECT_GT(Compare(TEXT("b"), TEXT("A")), 0);
+	EXPECT_LT(Compare(TEXT("a"), TEXT("A")), 0);
+	EXPECT_LT(Compare(TEXT("\u00E9cole"), TEXT("zoo")), 0);
+	EXPECT_EQ(Compare(TEXT("zoo"), TEXT("zoo")), 0);
+	EXPECT_LT(Compare(TEXT(""), TEXT("a")), 0);
+}
+
 TEST(FText, IsEmptyOrWhitespaceForBlanksTabsAndLineBreaks)
 {
 	EXPECT_TRUE(FText().IsEmptyOrWhitespace());

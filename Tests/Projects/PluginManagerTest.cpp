@@ -197,3 +197,14 @@ TEST_F(IPluginManagerTest, LoadsNoModulesOfASecondPluginWithOneName)
 	EXPECT_TRUE(Manager.LoadModulesForEnabledPlugins(ELoadingPhase::Default));
 	EXPECT_EQ(Started(), (std::vector<std::string>{"Pi1"}));
 }
+
+TEST_F(IPluginManagerTest, ForgetsPluginsAndWhereItLooked)
+{
+	Folder.Write("Rho.uplugin", "{}");
+	Search();
+	ASSERT_TRUE(Manager.FindPlugin(TEXT("Rho")).IsValid());
+	Manager.ForgetPlugins();
+	EXPECT_FALSE(Manager.FindPlugin(TEXT("Rho")).IsValid());
+	Manager.RefreshPluginsList();
+	EXPECT_FALSE(Manager.FindPlugin(TEXT("Rho")).IsValid());
+}

@@ -49,6 +49,14 @@ TEST_F(FTabManagerTest, KnowsItsSpawnersUntilTheyAreUnregistered)
 	EXPECT_TRUE(Tabs().HasTabSpawner("Two"));
 }
 
+TEST_F(FTabManagerTest, ListsItsSpawnersSortedByName)
+{
+	Tabs().RegisterNomadTabSpawner("aTab", FOnSpawnTab());
+	EXPECT_TRUE(Tabs().GetTabSpawnerNames() == (TArray<FName>{"aTab", "One", "Two"}));
+	Tabs().UnregisterNomadTabSpawner("aTab");
+	EXPECT_TRUE(Tabs().GetTabSpawnerNames() == (TArray<FName>{"One", "Two"}));
+}
+
 TEST_F(FTabManagerDeathTest, DiesOfASecondSpawnerOfOneType)
 {
 	EXPECT_EXIT(Tabs().RegisterNomadTabSpawner("ONE", FOnSpawnTab()), ::testing::ExitedWithCode(3),

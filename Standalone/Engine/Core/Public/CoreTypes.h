@@ -26,8 +26,6 @@ typedef char16_t TCHAR;
 #define FORCEINLINE inline
 #define LIKELY(x) __builtin_expect(!!(x), 1)
 #define UNLIKELY(x) __builtin_expect(!!(x), 0)
-#define PREPROCESSOR_JOIN_INNER(x, y) x##y
-#define PREPROCESSOR_JOIN(x, y) PREPROCESSOR_JOIN_INNER(x, y)
 
 #ifndef WITH_EDITOR
 /** This engine exists for editor modules only. */

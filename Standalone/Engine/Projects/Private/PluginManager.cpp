@@ -34,6 +34,7 @@ namespace
 		TSharedPtr<IPlugin> FindPlugin(const FString& Name) override;
 		bool AddPluginSearchPath(const FString& ExtraDiscoveryPath, bool bShouldRefresh) override;
 		void RefreshPluginsList() override;
+		void ForgetPlugins() override;
 		bool LoadModulesForEnabledPlugins(const ELoadingPhase::Type LoadingPhase) override;
 
 	private:
@@ -153,6 +154,12 @@ bool FPluginManager::AddPluginSearchPath(const FString& ExtraDiscoveryPath, bool
 		RefreshPluginsList();
 	}
 	return bIsNew;
+}
+
+void FPluginManager::ForgetPlugins()
+{
+	SearchPaths.Empty();
+	Plugins.Empty();
 }
 
 void FPluginManager::RefreshPluginsList()

@@ -6,7 +6,9 @@
 #include "Templates/SharedPointer.h"
 #include "Types/SlateEnums.h"
 
+class FAlignedSlot;
 class SWidget;
+struct FSizeParam;
 
 /** A parent's place for one child. A slot without content holds the null widget. */
 class SLATECORE_API FSlotBase
@@ -23,6 +25,11 @@ public:
 	/** The widget whose slot this is. Its content has no parent before. */
 	void SetOwner(SWidget& InOwner);
 
+	/** For dumps: this slot's alignment and padding, or null if it has none. The real engine has no such function. */
+	virtual const FAlignedSlot* AsAligned() const { return nullptr; }
+	/** For dumps: how a box panel sizes it, or null in another panel. The real engine has no such function. */
+	virtual const FSizeParam* GetSizeRule() const { return nullptr; }
+
 private:
 	/** Outlives the slot, being what the slot is a part of. */
 	SWidget* Owner = nullptr;
@@ -33,6 +40,8 @@ private:
 class SLATECORE_API FAlignedSlot : public FSlotBase
 {
 public:
+	virtual const FAlignedSlot* AsAligned() const override { return this; }
+
 	EHorizontalAlignment HAlignment = HAlign_Fill;
 	EVerticalAlignment VAlignment = VAlign_Fill;
 	TAttribute<FMargin> SlotPadding = FMargin();

@@ -1,5 +1,6 @@
 // Copyright Corvane. MIT License.
 #include <cstdio>
+#include <cstring>
 #include <locale.h>
 #include <unicode/uchar.h>
 #include <unicode/utf16.h>
@@ -28,8 +29,9 @@ namespace
 
 	bool SameUnits(const TCHAR* Lhs, const TCHAR* Rhs, int32 Count, ESearchCase::Type SearchCase)
 	{
+		// Bytes are compared many at a time, units one by one.
 		return SearchCase == ESearchCase::CaseSensitive
-			? std::char_traits<TCHAR>::compare(Lhs, Rhs, static_cast<SIZE_T>(Count)) == 0
+			? std::memcmp(Lhs, Rhs, static_cast<SIZE_T>(Count) * sizeof(TCHAR)) == 0
 			: SameIgnoringCase(Lhs, Rhs, Count);
 	}
 
@@ -261,43 +263,6 @@ FString FString::ToLower() const
 	return Result;
 }
 
-FString FString::TrimStartAndEnd() const
-{
-	int32 First = 0;
-	int32 End = Len();
-	while (First < End && FChar::IsWhitespace(Data[static_cast<SIZE_T>(First)]))
-	{
-		++First;
-	}
-	while (End > First && FChar::IsWhitespace(Data[static_cast<SIZE_T>(End - 1)]))
-	{
-		--End;
-	}
-	return Mid(First, End - First);
-}
-
-int32 FString::ParseIntoArray(TArray<FString>& OutArray, const TCHAR* Delimiter, bool InCullEmpty) const
-{
-	OutArray.Reset();
-	const FString Pattern(Delimiter);
-	check(!Pattern.IsEmpty());
-	int32 Start = 0;
-	for (;;)
-	{
-		const int32 Found = Find(Pattern, ESearchCase::CaseSensitive, ESearchDir::FromStart, Start);
-		const FString Part = Mid(Start, Found == INDEX_NONE ? MAX_int32 : Found - Start);
-		if (!InCullEmpty || !Part.IsEmpty())
-		{
-			OutArray.Add(Part);
-		}
-		if (Found == INDEX_NONE)
-		{
-			return OutArray.Num();
-		}
-		Start = Found + Pattern.Len();
-	}
-}
-
 void FString::Reserve(int32 Characters)
 {
 	Data.reserve(static_cast<SIZE_T>(Characters));
@@ -312,12 +277,6 @@ void FString::RemoveAt(int32 Index, int32 Count)
 {
 	check(Index >= 0 && Count >= 0 && Index + Count <= Len());
 	Data.erase(static_cast<SIZE_T>(Index), static_cast<SIZE_T>(Count));
-}
-
-void FString::InsertAt(int32 Index, const FString& Characters)
-{
-	check(Index >= 0 && Index <= Len());
-	Data.insert(static_cast<SIZE_T>(Index), Characters.Data);
 }
 
 FString FString::Printf(const TCHAR* Format, ...)

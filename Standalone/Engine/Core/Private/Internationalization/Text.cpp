@@ -105,13 +105,18 @@ bool FText::IsWhitespace(const TCHAR Char)
 	return FChar::IsWhitespace(Char);
 }
 
-bool FText::EqualTo(const FText& Other, const ETextComparisonLevel::Type ComparisonLevel) const
+int32 FText::CompareTo(const FText& Other, const ETextComparisonLevel::Type ComparisonLevel) const
 {
 	const FString& Left = ToString();
 	const FString& Right = Other.ToString();
 	UCollator* const Collator = GetCollator();
 	ucol_setStrength(Collator, ToStrength(ComparisonLevel));
-	return ucol_strcoll(Collator, *Left, Left.Len(), *Right, Right.Len()) == UCOL_EQUAL;
+	return ucol_strcoll(Collator, *Left, Left.Len(), *Right, Right.Len());
+}
+
+bool FText::EqualTo(const FText& Other, const ETextComparisonLevel::Type ComparisonLevel) const
+{
+	return CompareTo(Other, ComparisonLevel) == 0;
 }
 
 bool FText::IdenticalTo(const FText& Other) const

@@ -28,19 +28,6 @@ FString FPaths::GetPath(const FString& InPath)
 	return Slash == INDEX_NONE ? FString() : InPath.Left(Slash);
 }
 
-FString FPaths::GetCleanFilename(const FString& InPath)
-{
-	return InPath.RightChop(FindLastSlash(InPath) + 1);
-}
-
-FString FPaths::GetBaseFilename(const FString& InPath, bool bRemovePath)
-{
-	const FString Path = bRemovePath ? GetCleanFilename(InPath) : InPath;
-	int32 Dot = INDEX_NONE;
-	const bool bHasExtension = Path.FindLastChar(TEXT('.'), Dot) && Dot > FindLastSlash(Path);
-	return bHasExtension ? Path.Left(Dot) : Path;
-}
-
 bool FPaths::FileExists(const FString& InPath)
 {
 	const mode_t Kind = GetKind(InPath);

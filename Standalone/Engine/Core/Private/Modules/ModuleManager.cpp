@@ -138,14 +138,6 @@ IModuleInterface* FModuleManager::GetModule(const FName InModuleName)
 	return Info.IsValid() ? Info->Module.Get() : nullptr;
 }
 
-IModuleInterface& FModuleManager::GetLoadedModule(const FName InModuleName)
-{
-	IModuleInterface* const Module = GetModule(InModuleName);
-	checkf(
-		Module != nullptr, TEXT("Tried to get module interface for unloaded module: '%s'"), *InModuleName.ToString());
-	return *Module;
-}
-
 bool FModuleManager::UnloadModule(const FName InModuleName, bool)
 {
 	const TSharedPtr<FModuleInfo> Info = Modules.FindRef(InModuleName);

@@ -82,6 +82,12 @@ namespace
 		++OutNumber;
 		return First - 1;
 	}
+
+	/** Whether the character is one of those that stay together in a displayed name: "HTTP", "16". */
+	bool StartsRun(TCHAR Char)
+	{
+		return (Char >= TEXT('A') && Char <= TEXT('Z')) || (Char >= TEXT('0') && Char <= TEXT('9'));
+	}
 }
 
 FName::FName(const TCHAR* Name, EFindName FindType)
@@ -119,6 +125,33 @@ void FName::Init(const FString& Name, EFindName FindType)
 FString FName::GetPlainNameString() const
 {
 	return FString(GetNameTable().GetSpelling(DisplayIndex).c_str());
+}
+
+FString FName::NameToDisplayString(const FString& InDisplayName, const bool bIsBool)
+{
+	const bool bPrefixed =
+		bIsBool && InDisplayName.Len() > 1 && InDisplayName[0] == TEXT('b') && StartsRun(InDisplayName[1]);
+	FString Result;
+	bool bInRun = false;
+	bool bWordBegins = true;
+	for (int32 Index = bPrefixed ? 1 : 0; Index < InDisplayName.Len(); ++Index)
+	{
+		const TCHAR Char = InDisplayName[Index];
+		bWordBegins |= Char == TEXT('_') || (StartsRun(Char) && !bInRun);
+		bInRun = StartsRun(Char);
+		if (Char == TEXT('_'))
+		{
+			continue;
+		}
+		if (bWordBegins && !Result.IsEmpty())
+		{
+			Result.AppendChar(TEXT(' '));
+		}
+		const bool bLower = Char >= TEXT('a') && Char <= TEXT('z');
+		Result.AppendChar(bWordBegins && bLower ? static_cast<TCHAR>(Char - (TEXT('a') - TEXT('A'))) : Char);
+		bWordBegins = false;
+	}
+	return Result;
 }
 
 FString FName::ToString() const

@@ -74,13 +74,6 @@ public:
 	{
 		Elements.insert(Elements.end(), Source.Elements.begin(), Source.Elements.end());
 	}
-	/** Puts the item before the element at Index; Index may be one past the last. */
-	int32 Insert(const ElementType& Item, int32 Index)
-	{
-		check(Index >= 0 && Index <= Num());
-		Elements.insert(Elements.begin() + Index, Item);
-		return Index;
-	}
 	void RemoveAt(int32 Index, int32 Count = 1)
 	{
 		check(Index >= 0 && Count >= 0 && Index + Count <= Num());
@@ -99,12 +92,6 @@ public:
 		const int32 OldNum = Num();
 		Elements.erase(std::remove_if(Elements.begin(), Elements.end(), ShouldRemove), Elements.end());
 		return OldNum - Num();
-	}
-	ElementType Pop()
-	{
-		ElementType Item(std::move(Last()));
-		Elements.pop_back();
-		return Item;
 	}
 	int32 Find(const ElementType& Item) const
 	{

@@ -94,15 +94,11 @@ public:
 	bool EndsWith(const FString& Suffix, ESearchCase::Type SearchCase = ESearchCase::IgnoreCase) const;
 	FString Replace(const TCHAR* From, const TCHAR* To, ESearchCase::Type SearchCase = ESearchCase::IgnoreCase) const;
 	FString ToLower() const;
-	FString TrimStartAndEnd() const;
-	/** Splits at every delimiter. @return the number of parts. */
-	int32 ParseIntoArray(TArray<FString>& OutArray, const TCHAR* Delimiter, bool InCullEmpty = true) const;
 
 	void Reserve(int32 Characters);
 	void Reset();
 	/** Replaces Count units from Index on by nothing. */
 	void RemoveAt(int32 Index, int32 Count = 1);
-	void InsertAt(int32 Index, const FString& Characters);
 
 	/** Formats %s (TCHAR text), %hs (narrow text), %c, %d, %i, %u, %x, %lld, %llu, %f, %g and %%, with flags, width,
 	 * precision. */

@@ -192,6 +192,16 @@ public:
 		return Bindings.ContainsByPredicate(
 			[UserObject](const FBinding& Binding) { return Binding.Delegate.IsBoundToObject(UserObject); });
 	}
+	/** How many bindings would be called. The real engine has no such count. */
+	int32 GetBindingCount() const
+	{
+		int32 Count = 0;
+		for (const FBinding& Binding : Bindings)
+		{
+			Count += Binding.Delegate.IsBound() ? 1 : 0;
+		}
+		return Count;
+	}
 	void Broadcast(ParamTypes... Params) const
 	{
 		++BroadcastDepth;

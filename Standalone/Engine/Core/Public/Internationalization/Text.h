@@ -83,7 +83,13 @@ public:
 	/** True for what Unicode counts as white space, except the no-break spaces. */
 	static bool IsWhitespace(const TCHAR Char);
 
-	/** Compares what is displayed, by the rules of collation: some control characters carry no weight. */
+	/**
+	 * Below, equal to or above zero as what this text displays sorts before, with or after what the other does. By the
+	 * rules of collation that hold in every language: some control characters carry no weight.
+	 */
+	int32 CompareTo(
+		const FText& Other, const ETextComparisonLevel::Type ComparisonLevel = ETextComparisonLevel::Default) const;
+	/** Whether CompareTo is zero. */
 	bool EqualTo(
 		const FText& Other, const ETextComparisonLevel::Type ComparisonLevel = ETextComparisonLevel::Default) const;
 

@@ -18,16 +18,6 @@ struct FMath
 	{
 		return A <= B ? A : B;
 	}
-	template <typename T>
-	static T Clamp(const T X, const T Low, const T High)
-	{
-		return X < Low ? Low : (X < High ? X : High);
-	}
 	/** To the nearest whole number, halves upwards. */
 	static int32 RoundToInt(float Value) { return static_cast<int32>(std::floor(Value + 0.5f)); }
-	static int32 CeilToInt(float Value) { return static_cast<int32>(std::ceil(Value)); }
-	static bool IsNearlyEqual(float A, float B, float ErrorTolerance = 1.e-8f)
-	{
-		return std::fabs(A - B) <= ErrorTolerance;
-	}
 };

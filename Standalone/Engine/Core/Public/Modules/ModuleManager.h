@@ -70,13 +70,6 @@ public:
 		return static_cast<TModuleInterface&>(Get().LoadModuleChecked(InModuleName));
 	}
 
-	/** The module, which must be loaded. */
-	template <typename TModuleInterface>
-	static TModuleInterface& GetModuleChecked(const FName InModuleName)
-	{
-		return static_cast<TModuleInterface&>(Get().GetLoadedModule(InModuleName));
-	}
-
 	/** The module if it is loaded, else null. */
 	template <typename TModuleInterface>
 	static TModuleInterface* GetModulePtr(const FName InModuleName)
@@ -89,7 +82,6 @@ private:
 
 	FModuleManager() = default;
 
-	IModuleInterface& GetLoadedModule(const FName InModuleName);
 	FString FindModuleFile(const FString& ModuleName) const;
 	IModuleInterface* MakeModule(const FName InModuleName, EModuleLoadResult& OutResult);
 	IModuleInterface* OpenModule(const FString& Name, FModuleInfo& Info, EModuleLoadResult& OutResult) const;

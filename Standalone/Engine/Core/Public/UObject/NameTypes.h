@@ -42,6 +42,12 @@ public:
 	/** As this instance was spelled, number included; "None" for none. */
 	FString ToString() const;
 	FString GetPlainNameString() const;
+	/**
+	 * A name from the code as words for the user: "bUseHTTPOutput2" becomes "Use HTTPOutput 2". A word begins at a
+	 * capital letter or digit that follows none, and behind an underscore. The b in front of a bool's first capital is
+	 * left out.
+	 */
+	static FString NameToDisplayString(const FString& InDisplayName, const bool bIsBool);
 	/** The stored number: the shown one plus one, or 0 for none. */
 	int32 GetNumber() const { return Number; }
 	bool operator==(const FName& Other) const

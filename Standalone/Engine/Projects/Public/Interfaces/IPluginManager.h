@@ -42,6 +42,9 @@ public:
 	 */
 	virtual void RefreshPluginsList() = 0;
 
+	/** Begins anew, without plugins and search paths. The real engine, whose process is one editor, has no such thing. */
+	virtual void ForgetPlugins() = 0;
+
 	/**
 	 * Loads the modules of all plugins that ask for this phase, those for every program before those for the editor,
 	 * else in the descriptor's order. Modules that no editor uses are left out. Each failure is reported on standard

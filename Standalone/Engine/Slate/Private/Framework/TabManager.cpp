@@ -27,6 +27,17 @@ bool FGlobalTabmanager::HasTabSpawner(FName TabId) const
 	return NomadTabSpawner.Contains(TabId);
 }
 
+TArray<FName> FGlobalTabmanager::GetTabSpawnerNames() const
+{
+	TArray<FName> Names;
+	for (const TPair<FName, TSharedPtr<FTabSpawnerEntry>>& Spawner : NomadTabSpawner)
+	{
+		Names.Add(Spawner.Key);
+	}
+	Names.StableSort([](const FName& First, const FName& Second) { return First.LexicalLess(Second); });
+	return Names;
+}
+
 TSharedPtr<SDockTab> FGlobalTabmanager::TryInvokeTab(const FTabId& TabId, bool bInvokeAsInactive)
 {
 	TSharedPtr<SDockTab> Tab = FindExistingLiveTab(TabId);

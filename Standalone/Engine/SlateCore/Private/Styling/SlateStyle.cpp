@@ -47,5 +47,19 @@ FString FSlateStyleSet::RootToContentDir(const FString& RelativePath, const TCHA
 void FSlateStyleSet::Set(const FName PropertyName, FSlateBrush* InBrush)
 {
 	Brushes.Add(TUniquePtr<FSlateBrush>(InBrush));
+	// Removed first: the map would keep an earlier spelling of the key.
+	BrushesByKey.Remove(PropertyName);
 	BrushesByKey.Add(PropertyName, InBrush);
+}
+
+const FName* FSlateStyleSet::FindKey(const FSlateBrush* Brush) const
+{
+	for (const TPair<FName, const FSlateBrush*>& Entry : BrushesByKey)
+	{
+		if (Entry.Value == Brush)
+		{
+			return &Entry.Key;
+		}
+	}
+	return nullptr;
 }

@@ -1,15 +1,10 @@
 // Copyright Corvane. MIT License.
 #include "Styling/SlateStyleRegistry.h"
 
-#include "Containers/Map.h"
-
-namespace
+TMap<FName, const ISlateStyle*>& FSlateStyleRegistry::GetRegisteredStyles()
 {
-	TMap<FName, const ISlateStyle*>& GetRegisteredStyles()
-	{
-		static TMap<FName, const ISlateStyle*> RegisteredStyles;
-		return RegisteredStyles;
-	}
+	static TMap<FName, const ISlateStyle*> RegisteredStyles;
+	return RegisteredStyles;
 }
 
 void FSlateStyleRegistry::RegisterSlateStyle(const ISlateStyle& InSlateStyle)

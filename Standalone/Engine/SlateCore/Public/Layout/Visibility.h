@@ -25,8 +25,6 @@ struct SLATECORE_API EVisibility
 	bool operator!=(const EVisibility& Other) const { return Value != Other.Value; }
 	/** Drawn, whether it can be hit or not. */
 	bool IsVisible() const { return (Value & VisibleBit) != 0; }
-	bool IsHitTestVisible() const { return (Value & SelfHitBit) != 0; }
-	bool AreChildrenHitTestVisible() const { return (Value & ChildrenHitBit) != 0; }
 	static bool DoesVisibilityPassFilter(const EVisibility InVisibility, const EVisibility InVisibilityFilter)
 	{
 		return (InVisibility.Value & InVisibilityFilter.Value & (VisibleBit | CollapsedBit | HiddenBit)) != 0;

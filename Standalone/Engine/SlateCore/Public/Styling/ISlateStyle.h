@@ -16,4 +16,10 @@ public:
 	/** The key's brush, or the given one when there is none. */
 	virtual const FSlateBrush* GetOptionalBrush(const FName PropertyName, const ANSICHAR* Specifier = nullptr,
 		const FSlateBrush* const DefaultBrush = FStyleDefaults::GetNoBrush()) const = 0;
+
+private:
+	friend class FStyleInspector;
+
+	/** The key under which a brush is found, or null. The real engine does not tell. */
+	virtual const FName* FindKey(const FSlateBrush* Brush) const = 0;
 };

@@ -31,6 +31,8 @@ public:
 	void Set(const FName PropertyName, FSlateBrush* InBrush);
 
 private:
+	virtual const FName* FindKey(const FSlateBrush* Brush) const override;
+
 	FName StyleSetName;
 	FString ContentRootDir;
 	TArray<TUniquePtr<FSlateBrush>> Brushes;

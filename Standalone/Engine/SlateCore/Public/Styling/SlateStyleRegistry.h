@@ -1,6 +1,7 @@
 // Copyright Corvane. MIT License.
 #pragma once
 
+#include "Containers/Map.h"
 #include "Styling/ISlateStyle.h"
 
 /** The style sets by name. It does not own them: a set is unregistered before it goes. */
@@ -14,4 +15,9 @@ public:
 	static void UnRegisterSlateStyle(const FName StyleName);
 	/** The set of that name, or null. */
 	static const ISlateStyle* FindSlateStyle(const FName& InSlateStyleName);
+
+private:
+	friend class FStyleInspector;
+
+	static TMap<FName, const ISlateStyle*>& GetRegisteredStyles();
 };

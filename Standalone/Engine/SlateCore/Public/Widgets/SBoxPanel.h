@@ -17,6 +17,8 @@ public:
 	class FSlot : public FAlignedSlot
 	{
 	public:
+		virtual const FSizeParam* GetSizeRule() const override { return &SizeParam; }
+
 		FSizeParam SizeParam;
 	};
 

@@ -108,6 +108,8 @@ public:
 	/** Does nothing for a type that is not registered. */
 	void UnregisterNomadTabSpawner(const FName TabId);
 	bool HasTabSpawner(FName TabId) const;
+	/** The registered types, sorted by name. The real engine has no such list. */
+	TArray<FName> GetTabSpawnerNames() const;
 
 	/**
 	 * Brings the tab to the front, opening it first when it is not open. As inactive, it is opened behind the tab in

@@ -2,14 +2,11 @@
 #pragma once
 
 #include "Framework/SlateDelegates.h"
+#include "Standalone/SPressable.h"
 #include "Widgets/DeclarativeSyntaxSupport.h"
-#include "Widgets/SCompoundWidget.h"
 
-/**
- * A button around any content. It clicks when the left mouse button goes down and up on it, or Enter or the space bar
- * does while it has the focus. Going down elsewhere, or the release elsewhere, is no click.
- */
-class SLATE_API SButton : public SCompoundWidget
+/** A button around any content. Pressing it is a click. */
+class SLATE_API SButton : public SPressable
 {
 public:
 	SLATE_BEGIN_ARGS(SButton) {}
@@ -19,18 +16,9 @@ public:
 
 	void Construct(const FArguments& InArgs);
 
-	virtual bool SupportsKeyboardFocus() const override;
-	virtual void OnFocusLost(const FFocusEvent& InFocusEvent) override;
-	virtual FReply OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent) override;
-	virtual FReply OnKeyUp(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent) override;
-	virtual FReply OnMouseButtonDown(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
-	virtual FReply OnMouseButtonUp(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
-	virtual void OnMouseCaptureLost(const FCaptureLostEvent& CaptureLostEvent) override;
+protected:
+	virtual FReply Press() override;
 
 private:
-	/** Lets go; clicks if it was held down. */
-	FReply Release();
-
 	FOnClicked OnClicked;
-	bool bIsPressed = false;
 };

@@ -35,6 +35,10 @@ public:
 	/** Takes over the attribute's present value. */
 	void SetText(const TAttribute<FText>& InNewText);
 	void SelectAllText();
+	/** The real engine keeps this getter to itself, and the next one. */
+	const FSlateFontInfo& GetFont() const { return Font.Get(); }
+	/** What every edit is told to. */
+	const FOnTextChanged& GetOnTextChanged() const { return OnTextChanged; }
 
 	virtual bool SupportsKeyboardFocus() const override;
 	virtual void OnFocusLost(const FFocusEvent& InFocusEvent) override;
