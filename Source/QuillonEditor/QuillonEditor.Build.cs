@@ -20,9 +20,11 @@ public class QuillonEditor : ModuleRules
 		{
 			"InputCore",
 			"Projects",
+			"ToolMenus",
 			"UnrealEd",
 			"AssetTools",
 			"AssetRegistry",
+			"PlacementMode",
 			"Quillon",
 			"USpout",
 		});

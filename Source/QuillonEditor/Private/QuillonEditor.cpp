@@ -2,12 +2,19 @@
 #include "QuillonEditor.h"
 
 #include "Framework/Docking/TabManager.h"
+#include "IPlacementModeModule.h"
 #include "Modules/ModuleManager.h"
+#include "ToolMenus.h"
 
+#include "QuillonEditorCommands.h"
 #include "QuillonEditorStyle.h"
 #include "QuillonEditorWizardTab.h"
 
-// The order of both lists is part of the module's contract: what is registered first may be used by what follows.
+// The order of both lists is part of the module's contract: what is registered first may be used by what follows. The
+// second is not the first reversed: what the user could still reach goes first.
+
+// From a wide literal: other plugins look the category up by this very spelling.
+FQuillonEditorModule::FQuillonEditorModule() : PlacementCategoryName(TEXT("Corvane")) {}
 
 void FQuillonEditorModule::StartupModule()
 {
@@ -17,14 +24,39 @@ void FQuillonEditorModule::StartupModule()
 
 	// 2. The wizard's tab.
 	RegisterWizardTab();
+
+	// 3. The commands and what they do.
+	FQuillonEditorCommands::Register();
+	MapCommands();
+
+	// 4. The toolbar, as soon as there is one. The handle is not kept: shut-down names this object as the owner.
+	UToolMenus::RegisterStartupCallback(
+		FSimpleMulticastDelegate::FDelegate::CreateRaw(this, &FQuillonEditorModule::RegisterMenus));
+
+	// 5. The category of the Place Actors panel.
+	RegisterPlacementCategory();
 }
 
 void FQuillonEditorModule::ShutdownModule()
 {
-	// 1. The wizard's tab spawner, which is bound to this object.
+	// 1. The placement category with its items. Its module may be gone already when the editor closes.
+	if (FModuleManager::Get().IsModuleLoaded("PlacementMode"))
+	{
+		FModuleManager::LoadModuleChecked<IPlacementModeModule>("PlacementMode")
+			.UnregisterPlacementCategory(PlacementCategoryName);
+	}
+
+	// 2. The toolbar button, and the callback that would still add it.
+	UToolMenus::UnRegisterStartupCallback(this);
+	UToolMenus::UnregisterOwner(this);
+
+	// 3. The commands. The command list dies with this object.
+	FQuillonEditorCommands::Unregister();
+
+	// 4. The wizard's tab spawner, which is bound to this object.
 	FGlobalTabmanager::Get()->UnregisterNomadTabSpawner(QuillonEditorTabs::CineStreamWizard);
 
-	// 2. The style set, last: whatever still showed one of its brushes is gone by now.
+	// 5. The style set, last: whatever still showed one of its brushes is gone by now.
 	FQuillonEditorStyle::Shutdown();
 }
 

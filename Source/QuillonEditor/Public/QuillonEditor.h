@@ -6,8 +6,11 @@
 #include "Modules/ModuleInterface.h"
 
 class FSpawnTabArgs;
+class FUICommandList;
 class SCineStreamWizard;
 class SDockTab;
+class SWidget;
+struct FPlacementCategoryInfo;
 
 /**
  * The editor module's single entry point: wires the plugin's tools into the editor when it starts and takes them out
@@ -17,6 +20,8 @@ class SDockTab;
 class FQuillonEditorModule : public IModuleInterface
 {
 public:
+	FQuillonEditorModule();
+
 	virtual void StartupModule() override;
 	virtual void ShutdownModule() override;
 
@@ -29,6 +34,47 @@ private:
 
 	/** The wizard that somebody still holds, with its page and its stream name, or a new one. */
 	TSharedRef<SCineStreamWizard> GetOrCreateWizard();
+
+	/** Maps the plugin's commands onto a new, empty command list. */
+	void MapCommands();
+
+	/** Brings the wizard's tab to the front, opening it first where needed. */
+	void OpenWizardTab();
+
+	/** The runtime module keeps both switches: what a menu shows as checked is asked there each time. */
+	void ToggleEditorViewportRendering();
+	bool IsEditorViewportRendering() const;
+	void ToggleRuntimeViewportRendering();
+	bool IsRuntimeViewportRendering() const;
+	/** Always true: neither switch is ever refused. */
+	bool CanToggleViewportRendering() const;
+
+	/** Shows the version of the plugin and of the engine that it was made for, as its descriptor has them. */
+	void ShowPluginVersionDialog();
+
+	/** Each opens one page in the system's browser; a browser that does not start is not reported. */
+	void OpenKnowledgeCentre();
+	void OpenCorvaneWebsite();
+	void OpenDiscordCommunity();
+	void OpenVideoTutorials();
+
+	/** Adds the plugin's button to the level editor's toolbar, once ToolMenus is up. */
+	void RegisterMenus();
+
+	/** The menu below the toolbar button, made anew each time that it opens. */
+	TSharedRef<SWidget> GenerateMenuContent(TSharedPtr<FUICommandList> Commands);
+
+	/** Adds the plugin's category to the Place Actors panel, or takes the one that is there, and fills it. */
+	void RegisterPlacementCategory();
+
+	/** Adds the plugin's three actors to the category. */
+	void RegisterPlaceableItems(const FPlacementCategoryInfo* Category);
+
+	/** The unique handle of the placement category. Never changes. */
+	FName PlacementCategoryName;
+
+	/** What the plugin's commands do. Lives as long as the module object: a menu may still show it at shut-down. */
+	TSharedPtr<FUICommandList> PluginCommands;
 
 	/** The wizard that was placed in the tab last. Weak: a wizard lives as long as a tab shows it. */
 	TWeakPtr<SCineStreamWizard> WizardWidget;

@@ -7,8 +7,6 @@
 #include "Input/Events.h"
 #include "InputCoreTypes.h"
 #include "Kismet/GameplayStatics.h"
-#include "Layout/Children.h"
-#include "Layout/WidgetPath.h"
 #include "Templates/Casts.h"
 #include "Tests/AutomationEditorCommon.h"
 #include "Widgets/Docking/SDockTab.h"
@@ -16,6 +14,7 @@
 #include "Widgets/Input/SEditableTextBox.h"
 #include "Widgets/Text/STextBlock.h"
 
+#include "SlateUser.h"
 #include "ZAVCineCamCapture.h"
 #include "ZAVSpoutSenderManager.h"
 
@@ -34,46 +33,6 @@ namespace
 		DoneMessageText,
 		DoneCaptionText,
 	};
-
-	void Collect(const TSharedRef<SWidget>& Widget, const FName& Type, TArray<TSharedRef<SWidget>>& OutFound)
-	{
-		if (Widget->GetType() == Type)
-		{
-			OutFound.Add(Widget);
-		}
-		FChildren* Children = Widget->GetChildren();
-		for (int32 Index = 0; Index < Children->Num(); ++Index)
-		{
-			Collect(Children->GetChildAt(Index), Type, OutFound);
-		}
-	}
-
-	/** Whether the wanted widget is below this one (or is it) with nothing invisible on the way. */
-	bool IsVisibleWithin(const TSharedRef<SWidget>& Widget, const TSharedRef<SWidget>& Wanted)
-	{
-		if (!Widget->GetVisibility().IsVisible())
-		{
-			return false;
-		}
-		if (Widget == Wanted)
-		{
-			return true;
-		}
-		FChildren* Children = Widget->GetChildren();
-		for (int32 Index = 0; Index < Children->Num(); ++Index)
-		{
-			if (IsVisibleWithin(Children->GetChildAt(Index), Wanted))
-			{
-				return true;
-			}
-		}
-		return false;
-	}
-
-	void PressKey(const FKey& Key)
-	{
-		FSlateApplication::Get().ProcessKeyDownEvent(FKeyEvent(Key, FModifierKeysState(), 0, false, 0, 0));
-	}
 }
 
 FWizardUser::FWizardUser() : World(FAutomationEditorCommonUtils::CreateNewMap())
@@ -127,34 +86,17 @@ void FWizardUser::FocusNameBox()
 
 void FWizardUser::PressEnter()
 {
-	PressKey(EKeys::Enter);
-}
-
-void FWizardUser::Click(const TSharedRef<SWidget>& Widget)
-{
-	FSlateApplication& Slate = FSlateApplication::Get();
-	FWidgetPath Path;
-	Slate.GeneratePathToWidgetUnchecked(Widget, Path);
-	const FVector2D Position = Path.Widgets.Last().Geometry.GetAbsolutePosition();
-	// The events only refer to the sets.
-	TSet<FKey> PressedButtons;
-	PressedButtons.Add(EKeys::LeftMouseButton);
-	const TSet<FKey> NoButtons;
-	const FPointerEvent Press(
-		0, Position, Position, PressedButtons, EKeys::LeftMouseButton, 0.0f, FModifierKeysState());
-	const FPointerEvent Release(0, Position, Position, NoButtons, EKeys::LeftMouseButton, 0.0f, FModifierKeysState());
-	Slate.RoutePointerDownEvent(Path, Press);
-	Slate.RoutePointerUpEvent(Path, Release);
+	FSlateUser::PressKey(EKeys::Enter);
 }
 
 void FWizardUser::ClickCreate()
 {
-	Click(GetCreateButton());
+	FSlateUser::Click(GetCreateButton());
 }
 
 void FWizardUser::ClickDone()
 {
-	Click(GetDoneButton());
+	FSlateUser::Click(GetDoneButton());
 }
 
 void FWizardUser::Create(const FString& Name)
@@ -225,14 +167,12 @@ TSharedRef<SWidget> FWizardUser::GetWizard() const
 
 TArray<TSharedRef<SWidget>> FWizardUser::FindAll(const TCHAR* Type) const
 {
-	TArray<TSharedRef<SWidget>> Found;
-	Collect(GetWizard(), FName(Type), Found);
-	return Found;
+	return FSlateUser::FindAll(GetWizard(), Type);
 }
 
 bool FWizardUser::IsShown(const TSharedRef<SWidget>& Widget) const
 {
-	return IsVisibleWithin(GetWizard(), Widget);
+	return FSlateUser::IsShown(GetWizard(), Widget);
 }
 
 bool FWizardUser::IsCreatorPageShown() const
@@ -286,15 +226,6 @@ AZAVSpoutSenderManager* FWizardUser::PlaceManager(const FString& SenderName, con
 	Sender.StandaloneSenderName = StandaloneName;
 	Manager->SpoutSenders.Add(Sender);
 	return Manager;
-}
-
-FString DescribeText(const FText& Text)
-{
-	const TOptional<FString> Namespace = FTextInspector::GetNamespace(Text);
-	const TOptional<FString> Key = FTextInspector::GetKey(Text);
-	const FString* Source = FTextInspector::GetSourceString(Text);
-	return (Namespace.IsSet() ? Namespace.GetValue() : FString(TEXT("-"))) + TEXT(",") +
-		(Key.IsSet() ? Key.GetValue() : FString(TEXT("-"))) + TEXT(",") + (Source ? *Source : FString(TEXT("-")));
 }
 
 #endif

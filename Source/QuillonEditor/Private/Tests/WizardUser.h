@@ -3,6 +3,7 @@
 
 #include "CoreMinimal.h"
 
+#include "SlateUser.h"
 #include "Widgets/SWidget.h"
 
 class AActor;
@@ -76,12 +77,8 @@ public:
 private:
 	void OpenTab();
 	void CloseTab();
-	void Click(const TSharedRef<SWidget>& Widget);
 	TSharedRef<STextBlock> GetText(int32 Index) const;
 
 	UWorld* World;
 	TSharedPtr<SDockTab> Tab;
 };
-
-/** "Namespace,Key,Source" of a text, for comparison in one go; "-" where the text has none of one of them. */
-FString DescribeText(const FText& Text);

@@ -1,0 +1,114 @@
+// Copyright Corvane. MIT License.
+#include "MenuUser.h"
+
+#include "Framework/Docking/TabManager.h"
+#include "Misc/CoreDelegates.h"
+#include "ToolMenus.h"
+#include "Widgets/Docking/SDockTab.h"
+#include "Widgets/Input/SCheckBox.h"
+#include "Widgets/Text/STextBlock.h"
+
+#if WITH_DEV_AUTOMATION_TESTS
+
+namespace
+{
+	typedef decltype(FCoreDelegates::ModalErrorMessage) FMessageBoxDelegate;
+	typedef decltype(FCoreDelegates::ShouldLaunchUrl) FAddressDelegate;
+
+	const TCHAR* const MenuTab = TEXT("QuillonEditorMenuUser");
+}
+
+FMenuUser::FMenuUser()
+{
+	FCoreDelegates::ModalErrorMessage = FMessageBoxDelegate::CreateLambda(
+		[this](EAppMsgType::Type Type, const FText& Message, const FText& /*Title*/)
+		{
+			LastMessageType = Type;
+			Messages.Add(Message);
+			return EAppReturnType::Ok;
+		});
+	FCoreDelegates::ShouldLaunchUrl = FAddressDelegate::CreateLambda(
+		[this](const TCHAR* Address)
+		{
+			Addresses.Add(Address);
+			return false;
+		});
+	FGlobalTabmanager::Get()->RegisterNomadTabSpawner(MenuTab,
+		FOnSpawnTab::CreateLambda(
+			[this](const FSpawnTabArgs&)
+			{
+				const TSharedRef<SDockTab> Tab = SNew(SDockTab).TabRole(ETabRole::NomadTab);
+				Tab->SetContent(Menu.ToSharedRef());
+				return Tab;
+			}));
+	Reopen();
+}
+
+FMenuUser::~FMenuUser()
+{
+	FGlobalTabmanager::Get()->FindExistingLiveTab(FTabId(MenuTab))->RequestCloseTab();
+	FGlobalTabmanager::Get()->UnregisterNomadTabSpawner(MenuTab);
+	FCoreDelegates::ModalErrorMessage.Unbind();
+	FCoreDelegates::ShouldLaunchUrl.Unbind();
+}
+
+FToolMenuEntry* FMenuUser::FindButton()
+{
+	UToolMenu* ToolBar = UToolMenus::Get()->FindMenu("LevelEditor.LevelEditorToolBar");
+	FToolMenuSection* Section = ToolBar ? ToolBar->FindSection("Settings") : nullptr;
+	return Section ? Section->FindEntry("Corvane") : nullptr;
+}
+
+void FMenuUser::Reopen()
+{
+	Menu = FindButton()->ToolBarData.ComboButtonContextMenuGenerator.OnGetContent.Execute();
+	const TSharedPtr<SDockTab> Tab = FGlobalTabmanager::Get()->TryInvokeTab(FTabId(MenuTab));
+	Tab->SetContent(GetMenu());
+}
+
+TArray<FString> FMenuUser::GetTexts() const
+{
+	TArray<FString> Texts;
+	for (const TSharedRef<SWidget>& Widget : FSlateUser::FindAll(GetMenu(), TEXT("STextBlock")))
+	{
+		Texts.Add(StaticCastSharedRef<STextBlock>(Widget)->GetText().ToString());
+	}
+	return Texts;
+}
+
+FString FMenuUser::DescribeTextOf(const TCHAR* Shown) const
+{
+	for (const TSharedRef<SWidget>& Widget : FSlateUser::FindAll(GetMenu(), TEXT("STextBlock")))
+	{
+		const FText Text = StaticCastSharedRef<STextBlock>(Widget)->GetText();
+		if (Text.ToString() == Shown)
+		{
+			return DescribeText(Text);
+		}
+	}
+	return FString();
+}
+
+TArray<ECheckBoxState> FMenuUser::GetChecks() const
+{
+	TArray<ECheckBoxState> Checks;
+	for (const TSharedRef<SWidget>& Widget : FSlateUser::FindAll(GetMenu(), TEXT("SCheckBox")))
+	{
+		Checks.Add(StaticCastSharedRef<SCheckBox>(Widget)->GetCheckedState());
+	}
+	return Checks;
+}
+
+void FMenuUser::Choose(const TCHAR* Label)
+{
+	for (const TSharedRef<SWidget>& Widget : FSlateUser::FindAll(GetMenu(), TEXT("STextBlock")))
+	{
+		if (StaticCastSharedRef<STextBlock>(Widget)->GetText().ToString() == Label)
+		{
+			FSlateUser::Click(Widget);
+			return;
+		}
+	}
+}
+
+#endif
