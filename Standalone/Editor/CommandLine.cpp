@@ -11,6 +11,7 @@ namespace
 {
 	constexpr const char* NoWindow =
 		"this version has no window yet; `quillon-editor create NAME` does the job without one (see --help)";
+	constexpr const char* NoQtView = "--view qt needs the editor window, which this build does not have";
 	constexpr const char* NoScreenshot = "--screenshot needs the editor window, which this build does not have";
 
 	FCommandLine Refuse(const std::string& Reason)
@@ -37,15 +38,29 @@ namespace
 	{
 		FCreateOptions Create;
 		std::optional<std::string> Screenshot;
+		FDriveOptions Drive;
+		std::string View = "null";
 		CLI::App App{"The editor of the plugin, on its own stand-alone engine.", "quillon-editor"};
 		CLI::App* CreateCommand = nullptr;
+		CLI::App* DriveCommand = nullptr;
+		CLI::App* WorkerCommand = nullptr;
 
 		FArguments();
+
+	private:
+		void AddCreate();
+		void AddDrive();
 	};
 
 	FArguments::FArguments()
 	{
 		App.set_version_flag("--version", "quillon-editor " QUILLON_VERSION);
+		AddCreate();
+		AddDrive();
+	}
+
+	void FArguments::AddCreate()
+	{
 		CreateCommand = App.add_subcommand("create",
 			"Makes a streaming setup from one stream name: a render target, an aimed camera and a sender entry");
 		CreateCommand->add_option("NAME", Create.Name, "the stream name (put -- before a name that starts with -)")
@@ -61,9 +76,39 @@ namespace
 			->type_name("DIR");
 	}
 
+	void FArguments::AddDrive()
+	{
+		DriveCommand = App.add_subcommand(
+			"drive", "Plays a recording: one JSON request a line, one answer a line ({\"do\":\"help\"} lists them)");
+		DriveCommand->add_option("FILE", Drive.File, "the recording (default: standard input)");
+		DriveCommand->add_option("--view", View, "where the editor shows itself: null or qt (default: null)")
+			->check(CLI::IsMember({"null", "qt"}))
+			->type_name("VIEW");
+		DriveCommand->add_option("--saved", Drive.SavedDir, "folder for what the editor remembers")->type_name("DIR");
+		// What drive starts behind itself; without a group it stands in no help.
+		WorkerCommand = App.add_subcommand("drive-worker")->group("");
+		WorkerCommand->add_option("--saved", Drive.SavedDir)->type_name("DIR");
+	}
+
+	FCommandLine CheckDrive(const FArguments& Arguments)
+	{
+		if (Arguments.View != "null")
+		{
+			return Refuse(NoQtView);
+		}
+		FCommandLine Result;
+		Result.Drive = Arguments.Drive;
+		Result.Drive->bWorker = Arguments.WorkerCommand->parsed();
+		return Result;
+	}
+
 	FCommandLine Check(const FArguments& Arguments)
 	{
 		std::u16string Ignored;
+		if (Arguments.DriveCommand->parsed() || Arguments.WorkerCommand->parsed())
+		{
+			return CheckDrive(Arguments);
+		}
 		if (!Arguments.CreateCommand->parsed())
 		{
 			return Refuse(NoWindow);

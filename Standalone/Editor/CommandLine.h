@@ -25,10 +25,21 @@ struct FCreateOptions
 	bool bJson = false;
 };
 
+/** What `drive` was asked to do. Paths are the bytes of the command line. */
+struct FDriveOptions
+{
+	/** The recording; without it requests come from standard input. */
+	std::optional<std::string> File;
+	std::optional<std::string> SavedDir;
+	/** This process is the editor behind the one that was asked. */
+	bool bWorker = false;
+};
+
 /** The outcome of reading the command line: either a job, or texts to print and the status to end with. */
 struct FCommandLine
 {
 	std::optional<FCreateOptions> Create;
+	std::optional<FDriveOptions> Drive;
 	EExitStatus Status = EExitStatus::Done;
 	std::string Output;
 	std::string ErrorLine;

@@ -11,10 +11,9 @@
 
 bool FCreateJob::Run(const FString& Name, FCreateReport& OutReport, std::string& OutError)
 {
-	const TSharedPtr<SWidget> Content = FWizardPages::Open();
+	const TSharedPtr<SWidget> Content = FWizardPages::Open(OutError);
 	if (!Content.IsValid())
 	{
-		OutError = "the plugin has no wizard to open";
 		return false;
 	}
 	const FWizardPages Wizard(Content.ToSharedRef());

@@ -11,7 +11,11 @@
 TArray<UObject*> FEditorAssets::GetAll()
 {
 	TArray<FAssetData> Data;
-	IAssetRegistry::Get()->GetAllAssets(Data);
+	// A session may have unloaded the registry's module.
+	if (const IAssetRegistry* Registry = IAssetRegistry::Get())
+	{
+		Registry->GetAllAssets(Data);
+	}
 	TArray<UObject*> Assets;
 	for (const FAssetData& Asset : Data)
 	{
@@ -30,7 +34,7 @@ UObject* FEditorAssets::Make(FName Path, UClass* Class)
 	UPackage* Package = CreatePackage(*Path.ToString());
 	UObject* Asset = NewObject<UObject>(
 		Package, Class, FAssetPaths::GetAssetName(Path), RF_Public | RF_Standalone | RF_Transactional);
-	IAssetRegistry::Get()->AssetCreated(Asset);
+	IAssetRegistry::GetChecked().AssetCreated(Asset);
 	return Asset;
 }
 
@@ -38,7 +42,7 @@ void FEditorAssets::RemoveAll()
 {
 	for (UObject* Asset : GetAll())
 	{
-		IAssetRegistry::Get()->AssetDeleted(Asset);
+		IAssetRegistry::GetChecked().AssetDeleted(Asset);
 		Asset->ClearFlags(RF_Public | RF_Standalone);
 		Asset->MarkPendingKill();
 	}

@@ -1,6 +1,7 @@
 // Copyright Corvane. MIT License.
 #include "FileAccess.h"
 
+#include "Descriptor.h"
 #include "ErrorText.h"
 
 #include <fcntl.h>
@@ -16,30 +17,6 @@
 
 namespace
 {
-	/** A file descriptor that is closed at the end of its scope. */
-	class FDescriptor
-	{
-	public:
-		explicit FDescriptor(int InHandle) : Handle(InHandle) {}
-		FDescriptor(const FDescriptor&) = delete;
-		FDescriptor& operator=(const FDescriptor&) = delete;
-		~FDescriptor() { Close(); }
-
-		int Get() const { return Handle; }
-		bool IsOpen() const { return Handle >= 0; }
-
-		/** @return false if the system reports a failure only now, as network file systems may. */
-		bool Close()
-		{
-			const int Closing = Handle;
-			Handle = -1;
-			return Closing < 0 || ::close(Closing) == 0;
-		}
-
-	private:
-		int Handle;
-	};
-
 	bool Fail(const std::string& Path, const std::string& Reason, std::string& OutError)
 	{
 		OutError = FErrorText::ForFile(Path, Reason);
@@ -51,17 +28,13 @@ namespace
 		return Fail(Path, std::strerror(errno), OutError);
 	}
 
-	bool ReadAll(int Handle, size_t MaxSize, std::string& OutBytes)
+	bool ReadAll(const FDescriptor& File, size_t MaxSize, std::string& OutBytes)
 	{
 		std::string Buffer(size_t(64) * 1024, '\0');
 		// One byte more than allowed tells a file that grew since it was measured.
 		while (OutBytes.size() <= MaxSize)
 		{
-			const ssize_t Count = ::read(Handle, Buffer.data(), Buffer.size());
-			if (Count < 0 && errno == EINTR)
-			{
-				continue;
-			}
+			const long Count = File.Read(Buffer.data(), Buffer.size());
 			if (Count <= 0)
 			{
 				return Count == 0;
@@ -70,21 +43,6 @@ namespace
 		}
 		errno = EFBIG;
 		return false;
-	}
-
-	bool WriteAll(int Handle, const std::string& Bytes)
-	{
-		size_t Done = 0;
-		while (Done < Bytes.size())
-		{
-			const ssize_t Count = ::write(Handle, Bytes.data() + Done, Bytes.size() - Done);
-			if (Count < 0 && errno != EINTR)
-			{
-				return false;
-			}
-			Done += Count > 0 ? static_cast<size_t>(Count) : 0;
-		}
-		return true;
 	}
 
 	/** The access rights that a newly created file gets, or those of the file that is replaced. */
@@ -128,7 +86,7 @@ namespace
 
 	bool FillTemporary(FDescriptor& File, const std::string& Target, const std::string& Bytes)
 	{
-		return WriteAll(File.Get(), Bytes) && ::fchmod(File.Get(), ModeFor(Target)) == 0 && ::fsync(File.Get()) == 0 &&
+		return File.WriteAll(Bytes) && ::fchmod(File.Get(), ModeFor(Target)) == 0 && ::fsync(File.Get()) == 0 &&
 			File.Close();
 	}
 
@@ -163,7 +121,7 @@ bool FFileAccess::Read(const std::string& Path, size_t MaxSize, std::string& Out
 		return Fail(Path, "larger than " + std::to_string(MaxSize >> 20U) + " MiB", OutError);
 	}
 	OutBytes.reserve(static_cast<size_t>(Info.st_size));
-	return ReadAll(File.Get(), MaxSize, OutBytes) || FailWithErrno(Path, OutError);
+	return ReadAll(File, MaxSize, OutBytes) || FailWithErrno(Path, OutError);
 }
 
 bool FFileAccess::Replace(const std::string& Path, const std::string& Bytes, std::string& OutError)

@@ -17,6 +17,16 @@ FPropertyWriter::FPropertyWriter(const FReferenceTexts& InReferences, std::strin
 	: References(InReferences), Error(OutError)
 {}
 
+ordered_json FPropertyWriter::Report(const UStruct* Struct, const void* Container, const FReferenceTexts& InReferences)
+{
+	std::string Ignored;
+	FPropertyWriter Writer(InReferences, Ignored);
+	Writer.bReport = true;
+	ordered_json Json;
+	verify(Writer.WriteMembers(Struct, Container, nullptr, Json, FPlace()));
+	return Json;
+}
+
 bool FPropertyWriter::WriteMembers(
 	const UStruct* Struct, const void* Container, const void* Defaults, ordered_json& OutJson, const FPlace& Place)
 {
@@ -45,11 +55,12 @@ bool FPropertyWriter::WriteMember(
 	ordered_json Json;
 	if (const UObject* Component = Object ? FLevelProperties::GetOwnComponent(Object, Value) : nullptr)
 	{
-		if (!WriteMembers(Component->GetClass(), Component, Component->GetArchetype(), Json, Place / Name))
+		const UObject* Defaults = bReport ? nullptr : Component->GetArchetype();
+		if (!WriteMembers(Component->GetClass(), Component, Defaults, Json, Place / Name))
 		{
 			return false;
 		}
-		if (!Json.empty())
+		if (bReport || !Json.empty())
 		{
 			Members[Name] = std::move(Json);
 		}
@@ -104,7 +115,7 @@ bool FPropertyWriter::WriteValue(
 	{
 		return WriteReference(Object->GetObjectPropertyValue(Value), OutJson, Place);
 	}
-	return Refuse(Place, "properties of this kind can't stand in a level file");
+	return Refuse(Place, "properties of this kind can't stand in a level file", OutJson, nullptr);
 }
 
 bool FPropertyWriter::WriteArray(
@@ -135,9 +146,8 @@ bool FPropertyWriter::WriteReference(const UObject* Object, ordered_json& OutJso
 	const auto Found = References.find(Object);
 	if (Found == References.end())
 	{
-		return Refuse(Place,
-			"refers to " + FErrorText::Quote(FEngineText::ForDisplay(Object->GetPathName())) +
-				", which is no part of the level");
+		const std::string Path = FEngineText::ForDisplay(Object->GetPathName());
+		return Refuse(Place, "refers to " + FErrorText::Quote(Path) + ", which is no part of the level", OutJson, Path);
 	}
 	OutJson = Found->second;
 	return true;
@@ -148,11 +158,11 @@ bool FPropertyWriter::WriteString(const FString& Text, ordered_json& OutJson, co
 	std::string Bytes;
 	if (!FEngineText::ToUtf8(Text, Bytes))
 	{
-		return Refuse(Place, "the text is not well-formed Unicode");
+		return Refuse(Place, "the text is not well-formed Unicode", OutJson, FEngineText::ForDisplay(Text));
 	}
 	if (Bytes.find('\0') != std::string::npos)
 	{
-		return Refuse(Place, "the text holds a null character");
+		return Refuse(Place, "the text holds a null character", OutJson, Bytes);
 	}
 	OutJson = std::move(Bytes);
 	return true;
@@ -162,14 +172,20 @@ bool FPropertyWriter::WriteFloat(float Number, ordered_json& OutJson, const FPla
 {
 	if (!std::isfinite(Number))
 	{
-		return Refuse(Place, "the number is not finite");
+		return Refuse(Place, "the number is not finite", OutJson, nullptr);
 	}
 	OutJson = FStrictJson::Number(Number);
 	return true;
 }
 
-bool FPropertyWriter::Refuse(const FPlace& Place, const std::string& Reason)
+bool FPropertyWriter::Refuse(
+	const FPlace& Place, const std::string& Reason, ordered_json& OutJson, ordered_json Instead)
 {
+	if (bReport)
+	{
+		OutJson = std::move(Instead);
+		return true;
+	}
 	Error = FErrorText::AtPlace(Place.to_string(), Reason);
 	return false;
 }

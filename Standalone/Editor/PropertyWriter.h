@@ -14,8 +14,11 @@ class UObject;
 class UStruct;
 
 /**
- * Puts reflected properties into JSON, in the form that FPropertyReader reads. What has its default value is left out,
- * so that a level file says what is special in it, and follows when a default changes.
+ * Puts reflected properties into JSON, in the form that FPropertyReader reads.
+ *
+ * In a level file what has its default value is left out, so that the file says what is special in it, and follows when
+ * a default changes. A report shows everything and refuses nothing: what no file can hold shows as null, a reference
+ * out of the level as a path, and ill-formed text with U+FFFD.
  */
 class FPropertyWriter
 {
@@ -24,8 +27,12 @@ public:
 	using FReferenceTexts = std::unordered_map<const UObject*, std::string>;
 	using FPlace = nlohmann::json::json_pointer;
 
-	/** On refusal OutError is `JSON pointer: reason`. */
+	/** For a level file. On refusal OutError is `JSON pointer: reason`. */
 	FPropertyWriter(const FReferenceTexts& InReferences, std::string& OutError);
+
+	/** For a report. */
+	static nlohmann::ordered_json Report(
+		const UStruct* Struct, const void* Container, const FReferenceTexts& InReferences);
 
 	/**
 	 * Writes those members of Container, an instance of Struct, that differ from those of Defaults, or all of them if
@@ -51,8 +58,11 @@ private:
 	bool WriteArray(
 		const FArrayProperty* Property, const void* Value, nlohmann::ordered_json& OutJson, const FPlace& Place);
 	bool WriteReference(const UObject* Object, nlohmann::ordered_json& OutJson, const FPlace& Place);
-	bool Refuse(const FPlace& Place, const std::string& Reason);
+	/** @return whether Instead can stand in the value's place, as it does in a report. */
+	bool Refuse(const FPlace& Place, const std::string& Reason, nlohmann::ordered_json& OutJson,
+		nlohmann::ordered_json Instead);
 
 	const FReferenceTexts& References;
 	std::string& Error;
+	bool bReport = false;
 };

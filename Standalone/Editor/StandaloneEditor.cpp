@@ -15,15 +15,15 @@
 #include "Framework/Application/SlateApplication.h"
 #include "Framework/Docking/TabManager.h"
 #include "Interfaces/IPluginManager.h"
-#include "LevelEditorViewport.h"
 #include "Misc/Paths.h"
 #include "Modules/ModuleManager.h"
-#include "NullViewport.h"
 #include "Standalone/SlateNullRenderer.h"
+#include "Standalone/ToolMenusStartup.h"
 #include "UObject/Package.h"
 #include "Widgets/Docking/SDockTab.h"
 
 extern "C" void RegisterReflection_Engine();
+extern "C" void RegisterReflection_ToolMenus();
 extern "C" void RegisterReflection_UnrealEd();
 
 namespace
@@ -65,16 +65,6 @@ namespace
 		}
 		return true;
 	}
-
-	void CloseTabs()
-	{
-		// A copy: closing takes them off the list.
-		const TArray<FGlobalTabmanager::FOpenTab> Tabs = FGlobalTabmanager::Get()->GetOpenTabs();
-		for (const FGlobalTabmanager::FOpenTab& Open : Tabs)
-		{
-			Open.Tab->RequestCloseTab();
-		}
-	}
 }
 
 FStandaloneEditor::FStandaloneEditor() = default;
@@ -94,6 +84,8 @@ bool FStandaloneEditor::Start(const FStandaloneEditorOptions& Options, std::stri
 		Shutdown();
 		return false;
 	}
+	// Not before all modules are there: each may extend what another one makes.
+	FToolMenusStartup::Run();
 	return true;
 }
 
@@ -104,10 +96,11 @@ void FStandaloneEditor::StartEngine(const FStandaloneEditorOptions& Options)
 		AddModuleDirectory(Options.ModuleDir);
 	}
 	AddModuleDirectory(GetProgramDirectory());
-	// Only what the module manager opens registers its types by itself; these two are linked.
+	// Only what the module manager opens registers its types by itself; these are linked.
 	RegisterReflection_Engine();
+	RegisterReflection_ToolMenus();
 	RegisterReflection_UnrealEd();
-	for (const TCHAR* Module : {TEXT("AssetRegistry"), TEXT("AssetTools")})
+	for (const TCHAR* Module : {TEXT("AssetRegistry"), TEXT("AssetTools"), TEXT("PlacementMode")})
 	{
 		FModuleManager::Get().LoadModuleChecked(Module);
 	}
@@ -121,16 +114,8 @@ void FStandaloneEditor::StartEngine(const FStandaloneEditorOptions& Options)
 	SecondWorld = UWorld::CreateWorld(EWorldType::EditorPreview, false);
 	if (Options.bOpenViewport)
 	{
-		OpenViewport();
+		Viewports.Open({nullptr}, 0);
 	}
-}
-
-void FStandaloneEditor::OpenViewport()
-{
-	LevelClient = std::make_unique<FLevelEditorViewportClient>(nullptr);
-	Viewport = std::make_unique<FNullViewport>();
-	LevelClient->Viewport = Viewport.get();
-	GEditor->SetActiveViewport(Viewport.get());
 }
 
 bool FStandaloneEditor::StartPlugin(const FStandaloneEditorOptions& Options, std::string& OutError)
@@ -159,8 +144,9 @@ void FStandaloneEditor::Shutdown()
 	CloseTabs();
 	FEditorAssets::RemoveAll();
 	FModuleManager::Get().UnloadModulesAtShutdown();
-	LevelClient.reset();
-	Viewport.reset();
+	FToolMenusStartup::ShutDown();
+	IPluginManager::Get().ForgetPlugins();
+	Viewports.Close();
 	GEditor->GetEditorWorldContext().World()->DestroyWorld(true);
 	SecondWorld->DestroyWorld(false);
 	SecondWorld = nullptr;
@@ -184,8 +170,12 @@ UWorld* FStandaloneEditor::GetWorld(int32 Index) const
 	return Index == 0 ? GEditor->GetEditorWorldContext().World() : SecondWorld;
 }
 
-FLevelEditorViewportClient& FStandaloneEditor::GetLevelClient() const
+void FStandaloneEditor::CloseTabs()
 {
-	check(LevelClient != nullptr);
-	return *LevelClient;
+	// A copy: closing takes them off the list.
+	const TArray<FGlobalTabmanager::FOpenTab> Tabs = FGlobalTabmanager::Get()->GetOpenTabs();
+	for (const FGlobalTabmanager::FOpenTab& Open : Tabs)
+	{
+		Open.Tab->RequestCloseTab();
+	}
 }

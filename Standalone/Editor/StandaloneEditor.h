@@ -1,15 +1,12 @@
 // Copyright Corvane. MIT License.
 #pragma once
 
-#include <memory>
 #include <string>
-#include <vector>
 
 #include "CoreMinimal.h"
+#include "ViewportSet.h"
 
-class FEditorViewportClient;
 class FLevelEditorViewportClient;
-class FNullViewport;
 class UClass;
 class UWorld;
 
@@ -56,16 +53,19 @@ public:
 	/** @return 0: the world of the open level, which changes when another is opened; 1: the second one. */
 	UWorld* GetWorld(int32 Index) const;
 
+	FViewportSet& GetViewports() { return Viewports; }
+
 	/** The client of the one viewport that the editor starts with; fatal if it was told to start without. */
-	FLevelEditorViewportClient& GetLevelClient() const;
+	FLevelEditorViewportClient& GetLevelClient() const { return Viewports.GetClient(0); }
+
+	/** Closes what modules have opened, as none of them may be unloaded before. */
+	static void CloseTabs();
 
 private:
 	void StartEngine(const FStandaloneEditorOptions& Options);
-	void OpenViewport();
 	bool StartPlugin(const FStandaloneEditorOptions& Options, std::string& OutError);
 
-	std::unique_ptr<FNullViewport> Viewport;
-	std::unique_ptr<FLevelEditorViewportClient> LevelClient;
+	FViewportSet Viewports;
 	UWorld* SecondWorld = nullptr;
 	bool bRunning = false;
 };

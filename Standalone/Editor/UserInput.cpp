@@ -21,13 +21,22 @@ void FUserInput::Type(const FString& Text)
 	}
 }
 
+void FUserInput::Press(const FKey& Key, const FModifierKeysState& Modifiers)
+{
+	const FKeyEvent Event(Key, Modifiers, 0, false, 0, 0);
+	FSlateApplication::Get().ProcessKeyDownEvent(Event);
+	FSlateApplication::Get().ProcessKeyUpEvent(Event);
+}
+
+FModifierKeysState FUserInput::WithControl()
+{
+	return FModifierKeysState(false, false, true, false, false, false, false, false, false);
+}
+
 void FUserInput::Paste(const FString& Text)
 {
 	FPlatformApplicationMisc::ClipboardCopy(*Text);
-	const FModifierKeysState Control(false, false, true, false, false, false, false, false, false);
-	const FKeyEvent Key(EKeys::V, Control, 0, false, 0, 0);
-	FSlateApplication::Get().ProcessKeyDownEvent(Key);
-	FSlateApplication::Get().ProcessKeyUpEvent(Key);
+	Press(EKeys::V, WithControl());
 }
 
 bool FUserInput::Click(const TSharedRef<SWidget>& Widget)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Input/Events.h"
 
 class SWidget;
 
@@ -17,6 +18,12 @@ public:
 
 	/** Types Text into whatever has the focus, one character after the other. */
 	static void Type(const FString& Text);
+
+	/** Presses and releases a key, for whatever has the focus. */
+	static void Press(const FKey& Key, const FModifierKeysState& Modifiers = FModifierKeysState());
+
+	/** The control key, held down. */
+	static FModifierKeysState WithControl();
 
 	/** Copies Text and pastes it with Ctrl+V into whatever has the focus. */
 	static void Paste(const FString& Text);

@@ -1,6 +1,7 @@
 // Copyright Corvane. MIT License.
 #include "WizardPages.h"
 
+#include "EditorMenus.h"
 #include "EngineText.h"
 #include "Framework/Docking/TabManager.h"
 #include "UserInput.h"
@@ -28,10 +29,19 @@ namespace
 	}
 }
 
-TSharedPtr<SWidget> FWizardPages::Open()
+TSharedPtr<SWidget> FWizardPages::Open(std::string& OutError)
 {
-	const TSharedPtr<SDockTab> Tab = FGlobalTabmanager::Get()->TryInvokeTab(FTabId("CineStreamWizard"));
-	return Tab.IsValid() ? TSharedPtr<SWidget>(Tab->GetContent()) : nullptr;
+	if (!FEditorMenus::Choose(TEXT("Corvane"), TEXT("Cine Stream Wizard"), OutError))
+	{
+		return nullptr;
+	}
+	const TSharedPtr<SDockTab> Tab = FGlobalTabmanager::Get()->FindExistingLiveTab(FTabId("CineStreamWizard"));
+	if (!Tab.IsValid())
+	{
+		OutError = "the menu opens no wizard";
+		return nullptr;
+	}
+	return Tab->GetContent();
 }
 
 bool FWizardPages::EnterName(const FString& Name) const

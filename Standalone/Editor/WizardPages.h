@@ -14,8 +14,8 @@ class SWidget;
 class FWizardPages
 {
 public:
-	/** Opens the wizard's tab as the menu command does. @return null if nothing spawns the tab. */
-	static TSharedPtr<SWidget> Open();
+	/** Chooses the wizard from the toolbar button's menu. @return null, and one line that says why, if none opens. */
+	static TSharedPtr<SWidget> Open(std::string& OutError);
 
 	explicit FWizardPages(const TSharedRef<SWidget>& InContent) : Content(InContent) {}
 

@@ -1,6 +1,8 @@
 // Copyright Corvane. MIT License.
 #include "CommandLine.h"
 #include "CreateCommand.h"
+#include "Driver/DriverFront.h"
+#include "Driver/DriverWorker.h"
 #include "StandardOutput.h"
 
 #include <csignal>
@@ -14,6 +16,10 @@ int main(int ArgumentCount, char** Arguments)
 	if (CommandLine.Create)
 	{
 		return static_cast<int>(FCreateCommand::Run(*CommandLine.Create));
+	}
+	if (CommandLine.Drive)
+	{
+		return CommandLine.Drive->bWorker ? FDriverWorker::Run() : FDriverFront(*CommandLine.Drive).Run();
 	}
 	if (!CommandLine.ErrorLine.empty())
 	{

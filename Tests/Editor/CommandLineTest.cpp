@@ -131,3 +131,37 @@ TEST(FCommandLine, PrintsItsVersion)
 	EXPECT_EQ(Result.Status, EExitStatus::Done);
 	EXPECT_EQ(Result.Output.substr(0, 15), "quillon-editor ");
 }
+
+TEST(FCommandLine, ReadsEveryOptionOfDrive)
+{
+	const FCommandLine Result = Parse({"drive", "a", "--view", "null", "--saved", "b"});
+	ASSERT_TRUE(Result.Drive.has_value()) << Result.ErrorLine;
+	EXPECT_EQ(Result.Drive->File, "a");
+	EXPECT_EQ(Result.Drive->SavedDir, "b");
+	EXPECT_FALSE(Result.Drive->bWorker);
+	EXPECT_FALSE(Result.Create.has_value());
+}
+
+TEST(FCommandLine, DrivesFromStandardInputByDefault)
+{
+	const FCommandLine Result = Parse({"drive"});
+	ASSERT_TRUE(Result.Drive.has_value()) << Result.ErrorLine;
+	EXPECT_FALSE(Result.Drive->File || Result.Drive->SavedDir);
+}
+
+TEST(FCommandLine, RefusesViewsThatThereAreNot)
+{
+	EXPECT_NE(RefusalOf({"drive", "--view", "qt"}).find("window"), std::string::npos);
+	EXPECT_NE(RefusalOf({"drive", "--view", "Null"}).find("--view"), std::string::npos);
+	EXPECT_NE(RefusalOf({"drive", "a", "b"}), "");
+}
+
+TEST(FCommandLine, KeepsTheDriversWorkerToItself)
+{
+	const FCommandLine Result = Parse({"drive-worker", "--saved=-b"});
+	ASSERT_TRUE(Result.Drive.has_value()) << Result.ErrorLine;
+	EXPECT_TRUE(Result.Drive->bWorker);
+	EXPECT_EQ(Result.Drive->SavedDir, "-b");
+	EXPECT_EQ(Parse({"--help"}).Output.find("worker"), std::string::npos);
+	EXPECT_NE(Parse({"--help"}).Output.find("drive"), std::string::npos);
+}

@@ -12,6 +12,8 @@
 #include "Framework/Docking/TabManager.h"
 #include "LevelEditorViewport.h"
 #include "Modules/ModuleManager.h"
+#include "Standalone/ToolMenusStartup.h"
+#include "ToolMenus.h"
 #include "UObject/Class.h"
 #include "UObject/WeakObjectPtrTemplates.h"
 #include "WizardPages.h"
@@ -36,7 +38,8 @@ namespace
 		EXPECT_EQ(GEditor, nullptr);
 		EXPECT_FALSE(FSlateApplication::IsInitialized());
 		EXPECT_EQ(IAssetRegistry::Get(), nullptr);
-		for (const ANSICHAR* Module : {"AssetRegistry", "AssetTools", "USpout", "Quillon", "QuillonEditor"})
+		for (const ANSICHAR* Module :
+			{"AssetRegistry", "AssetTools", "PlacementMode", "USpout", "Quillon", "QuillonEditor"})
 		{
 			EXPECT_FALSE(FModuleManager::Get().IsModuleLoaded(Module)) << Module;
 		}
@@ -98,11 +101,71 @@ TEST(FStandaloneEditor, ClosesTabsBeforeTheModulesThatMadeThem)
 	FStandaloneEditor Editor;
 	std::string Error;
 	ASSERT_TRUE(Editor.Start(FStandaloneEditorOptions(), Error)) << Error;
-	const TWeakPtr<SWidget> Wizard = FWizardPages::Open();
+	const TWeakPtr<SWidget> Wizard = FWizardPages::Open(Error);
 	ASSERT_TRUE(Wizard.IsValid());
 	Editor.Shutdown();
 	EXPECT_FALSE(Wizard.IsValid());
 	EXPECT_EQ(FGlobalTabmanager::Get()->GetOpenTabs().Num(), 0);
+}
+
+TEST(FStandaloneEditor, BringsMenusUpOnceAllModulesAreLoaded)
+{
+	for (int32 Round = 0; Round < 2; ++Round)
+	{
+		int32 Calls = 0;
+		UToolMenus::RegisterStartupCallback(FSimpleDelegate::CreateLambda(
+			[&Calls]
+			{
+				EXPECT_TRUE(IsPluginLoaded());
+				EXPECT_TRUE(FModuleManager::Get().IsModuleLoaded("PlacementMode"));
+				++Calls;
+			}));
+		FStandaloneEditor Editor;
+		std::string Error;
+		ASSERT_TRUE(Editor.Start(FStandaloneEditorOptions(), Error)) << Error;
+		EXPECT_EQ(Calls, 1);
+		EXPECT_EQ(FToolMenusStartup::GetStartupCallbackCount(), 0);
+	}
+}
+
+TEST(FStandaloneEditor, TakesMenusDownWithAllThatIsInThem)
+{
+	FStandaloneEditor Editor;
+	std::string Error;
+	ASSERT_TRUE(Editor.Start(EngineOnly(), Error)) << Error;
+	const TWeakObjectPtr<UToolMenus> Menus = UToolMenus::Get();
+	const FToolMenuOwnerScoped Owner("Somebody");
+	const FToolMenuEntry Entry = FToolMenuEntry::InitComboButton("Left", FUIAction(), FOnGetContent());
+	Menus->ExtendMenu("LevelEditor.LevelEditorToolBar")->FindOrAddSection("Settings").AddEntry(Entry);
+	Editor.Tick();
+	ASSERT_TRUE(Menus.IsValid());
+	EXPECT_EQ(FToolMenusStartup::GetOwnerCount(), 1);
+	Editor.Shutdown();
+	EXPECT_FALSE(Menus.IsValid());
+	EXPECT_EQ(FToolMenusStartup::GetOwnerCount(), 0);
+}
+
+TEST(FStandaloneEditor, DropsWhatWaitsForMenusWhenThePluginFails)
+{
+	const FTemporaryFolder Folder;
+	Folder.Write("ZAVQuillon.uplugin", "{\"Modules\": 3}");
+	FStandaloneEditorOptions Options;
+	Options.ProjectDir = Folder.File("");
+	UToolMenus::RegisterStartupCallback(FSimpleDelegate::CreateLambda([] { ADD_FAILURE() << "menus came up"; }));
+	FStandaloneEditor Editor;
+	std::string Error;
+	EXPECT_FALSE(Editor.Start(Options, Error));
+	EXPECT_EQ(FToolMenusStartup::GetStartupCallbackCount(), 0);
+}
+
+TEST(FStandaloneEditor, FindsNoPluginThatAnEarlierOneFound)
+{
+	std::string Error;
+	FStandaloneEditor().Start(FStandaloneEditorOptions(), Error);
+	const FTemporaryFolder Empty;
+	FStandaloneEditorOptions Options;
+	Options.ProjectDir = Empty.File("");
+	EXPECT_FALSE(FStandaloneEditor().Start(Options, Error));
 }
 
 TEST(FStandaloneEditor, StartsAgainAfterItWasShutDown)
@@ -113,7 +176,7 @@ TEST(FStandaloneEditor, StartsAgainAfterItWasShutDown)
 		std::string Error;
 		ASSERT_TRUE(Editor.Start(FStandaloneEditorOptions(), Error)) << Error;
 		EXPECT_TRUE(IsPluginLoaded());
-		EXPECT_TRUE(FWizardPages::Open().IsValid());
+		EXPECT_TRUE(FWizardPages::Open(Error).IsValid());
 		Editor.Tick();
 	}
 	ExpectNothingRuns();

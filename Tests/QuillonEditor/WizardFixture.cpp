@@ -33,7 +33,9 @@ namespace
 
 void FWizardFixture::OpenWizard()
 {
-	Wizard = FWizardPages::Open();
+	std::string Error;
+	Wizard = FWizardPages::Open(Error);
+	EXPECT_TRUE(Wizard.IsValid()) << Error;
 	Pages = std::make_unique<FWizardPages>(Wizard.ToSharedRef());
 }
 

@@ -1,0 +1,49 @@
+// Copyright Corvane. MIT License.
+#pragma once
+
+#include "StandaloneEditor.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "CoreMinimal.h"
+
+class FOutsideRecorder;
+
+/**
+ * What the requests of one recording work on: a running editor, the records of what it handed to the outside, and a
+ * clock that nothing but the requests moves.
+ */
+class FDriverSession
+{
+public:
+	FDriverSession();
+	FDriverSession(const FDriverSession&) = delete;
+	FDriverSession& operator=(const FDriverSession&) = delete;
+	~FDriverSession();
+
+	/** @return false with one line if editor or plugin can't be started. */
+	bool Start(const FStandaloneEditorOptions& Options, std::string& OutError);
+
+	FStandaloneEditor& GetEditor() { return Editor; }
+	FOutsideRecorder& GetOutside() { return *Outside; }
+
+	/** What follows each request: the editor does what is due and time moves on by one frame. */
+	void Tick();
+	/** Turns the clock, in seconds. */
+	void Advance(double Seconds);
+	/** The clock: seconds since the session was made. */
+	double GetTime() const { return Time; }
+
+	/** The process that runs this session shall end and another one take its place. */
+	void RequestRestart() { bRestart = true; }
+	bool IsRestartRequested() const { return bRestart; }
+
+private:
+	// Before the editor: it records until the last module is gone.
+	std::unique_ptr<FOutsideRecorder> Outside;
+	FStandaloneEditor Editor;
+	double Time = 0.0;
+	bool bRestart = false;
+};

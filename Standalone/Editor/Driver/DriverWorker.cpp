@@ -1,0 +1,41 @@
+// Copyright Corvane. MIT License.
+#include "Driver/DriverWorker.h"
+
+#include "CommandLine.h"
+#include "Driver/WorkerProcess.h"
+#include "StandardOutput.h"
+
+#include <unistd.h>
+
+#include <limits>
+
+#include "Driver/DriverSession.h"
+#include "Driver/RequestTable.h"
+
+int FDriverWorker::Run()
+{
+	const FDescriptor Answers(FWorkerProcess::AnswersHandle);
+	// The front keeps the limit.
+	FLineReader Requests{FDescriptor(STDIN_FILENO), std::numeric_limits<size_t>::max()};
+	FDriverSession Session;
+	std::string Error;
+	if (!Session.Start(FStandaloneEditorOptions(), Error))
+	{
+		FStandardOutput::WriteError(Error);
+		return static_cast<int>(EExitStatus::BadInput);
+	}
+	std::string Line;
+	// The front ends the input, before a restart as well.
+	while (Requests.Next(Line) == FLineReader::EResult::Line)
+	{
+		const std::string Answer = FRequestTable::Answer(Session, Line);
+		const auto Mark =
+			Session.IsRestartRequested() ? FWorkerProcess::EMark::Restarts : FWorkerProcess::EMark::GoesOn;
+		if (!Answers.WriteAll(Answer + '\n' + static_cast<char>(Mark) + '\n'))
+		{
+			// The front is gone.
+			return static_cast<int>(EExitStatus::BadInput);
+		}
+	}
+	return static_cast<int>(EExitStatus::Done);
+}

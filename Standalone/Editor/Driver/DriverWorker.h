@@ -1,0 +1,10 @@
+// Copyright Corvane. MIT License.
+#pragma once
+
+/** The process behind the front: an editor that answers the lines on its standard input. See FWorkerProcess. */
+class FDriverWorker
+{
+public:
+	/** @return the status with which the program ends. */
+	static int Run();
+};

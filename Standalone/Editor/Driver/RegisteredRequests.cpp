@@ -1,0 +1,77 @@
+// Copyright Corvane. MIT License.
+#include "Driver/RegisteredRequests.h"
+
+#include "AuthDelegates.h"
+#include "EngineText.h"
+#include "Framework/Commands/InputBindingManager.h"
+#include "Framework/Docking/TabManager.h"
+#include "IPlacementModeModule.h"
+#include "Standalone/StyleInspector.h"
+#include "Standalone/ToolMenusStartup.h"
+
+namespace
+{
+	FAnswer SortNames(TArray<FName> Names)
+	{
+		Names.StableSort([](const FName& Left, const FName& Right) { return Left.LexicalLess(Right); });
+		FAnswer Answer = FAnswer::array();
+		for (const FName& Name : Names)
+		{
+			Answer.push_back(FEngineText::ForDisplay(Name));
+		}
+		return Answer;
+	}
+
+	FAnswer ListCommands()
+	{
+		TArray<TSharedPtr<FBindingContext>> Contexts;
+		FInputBindingManager::Get().GetKnownInputContexts(Contexts);
+		Contexts.StableSort([](const TSharedPtr<FBindingContext>& Left, const TSharedPtr<FBindingContext>& Right)
+			{ return Left->GetContextName().LexicalLess(Right->GetContextName()); });
+		FAnswer Answer = FAnswer::object();
+		for (const TSharedPtr<FBindingContext>& Context : Contexts)
+		{
+			TArray<TSharedPtr<FUICommandInfo>> Commands;
+			FInputBindingManager::Get().GetCommandInfosFromContext(Context->GetContextName(), Commands);
+			TArray<FName> Names;
+			for (const TSharedPtr<FUICommandInfo>& Command : Commands)
+			{
+				Names.Add(Command->GetCommandName());
+			}
+			Answer[FEngineText::ForDisplay(Context->GetContextName())] = SortNames(Names);
+		}
+		return Answer;
+	}
+
+	FAnswer ListPlacement()
+	{
+		TArray<FName> Handles;
+		// Asking for the module otherwise would load it.
+		if (const auto* Module = FModuleManager::GetModulePtr<IPlacementModeModule>("PlacementMode"))
+		{
+			TArray<FPlacementCategoryInfo> Categories;
+			Module->GetSortedCategories(Categories);
+			for (const FPlacementCategoryInfo& Category : Categories)
+			{
+				Handles.Add(Category.UniqueHandle);
+			}
+		}
+		return SortNames(Handles);
+	}
+
+	FAnswer ListRegistered(FDriverSession&, const FRequest&)
+	{
+		return {{"styles", SortNames(FStyleInspector::GetStyleSetNames())},
+			{"tabs", SortNames(FGlobalTabmanager::Get()->GetTabSpawnerNames())}, {"commands", ListCommands()},
+			// There are no details panels that could be given layouts, and no sessions that could be lost.
+			{"layouts", {{"properties", FAnswer::array()}, {"classes", FAnswer::array()}}},
+			{"placement", ListPlacement()}, {"menuOwners", FToolMenusStartup::GetOwnerCount()},
+			{"startupCallbacks", FToolMenusStartup::GetStartupCallbackCount()},
+			{"upgradeHandlers", AuthDelegates::OnUpgradeAvailable.GetBindingCount()}, {"lostStateHandlers", 0}};
+	}
+}
+
+std::vector<FRequestDefinition> FRegisteredRequests::GetAll()
+{
+	return {{"registered", {}, ListRegistered}};
+}

@@ -1,0 +1,194 @@
+// Copyright Corvane. MIT License.
+#include "DrivenEditor.h"
+
+#include <algorithm>
+
+#include "AllocationCount.h"
+#include "FileAccessRecorder.h"
+
+#include "Framework/Docking/TabManager.h"
+#include "IPlacementModeModule.h"
+#include "Modules/ModuleManager.h"
+#include "UObject/UObjectGlobals.h"
+
+using nlohmann::json;
+
+namespace
+{
+	bool Contains(const json& List, const char* Name)
+	{
+		return std::find(List.begin(), List.end(), Name) != List.end();
+	}
+
+	/** The category of the Place Actors panel, or null. */
+	json FindCategory(const json& Placement)
+	{
+		for (const json& Category : Placement["categories"])
+		{
+			if (Category["handle"] == "Corvane")
+			{
+				return Category;
+			}
+		}
+		return nullptr;
+	}
+}
+
+/** The module among the editor's own modules: what it leaves with them, and what it does without them. */
+class FModuleHosts : public FDrivenEditor
+{};
+
+TEST_F(FModuleHosts, ReceivesWhatTheModuleRegisters)
+{
+	const json Registered = Ask("registered");
+	EXPECT_TRUE(Contains(Registered["styles"], "QuillonEditorStyle"));
+	EXPECT_TRUE(Contains(Registered["tabs"], "CineStreamWizard"));
+	EXPECT_TRUE(Contains(Registered["placement"], "Corvane"));
+	ASSERT_TRUE(Registered["commands"].contains("QuillonEditor"));
+	EXPECT_EQ(Registered["commands"]["QuillonEditor"].size(), 8U);
+	EXPECT_EQ(Registered["menuOwners"], 1);
+	EXPECT_EQ(Registered["startupCallbacks"], 0);
+}
+
+TEST_F(FModuleHosts, AreLeftCleanAtShutDown)
+{
+	Module("unload");
+	const json Registered = Ask("registered");
+	EXPECT_FALSE(Contains(Registered["styles"], "QuillonEditorStyle"));
+	EXPECT_FALSE(Contains(Registered["tabs"], "CineStreamWizard"));
+	EXPECT_FALSE(Contains(Registered["placement"], "Corvane"));
+	EXPECT_FALSE(Registered["commands"].contains("QuillonEditor"));
+	EXPECT_EQ(Registered["menuOwners"], 0);
+	EXPECT_EQ(Registered["startupCallbacks"], 0);
+	EXPECT_EQ(Ask("toolbar")["buttons"].size(), 0U);
+}
+
+TEST_F(FModuleHosts, ComeBackToWhereTheyWereAfterAHundredStarts)
+{
+	const json Before = Ask("registered");
+	const json Placement = Ask("placement");
+	const json Toolbar = Ask("toolbar");
+	for (int Round = 0; Round < 100; ++Round)
+	{
+		Module("unload");
+		Module("load");
+	}
+	EXPECT_EQ(Ask("registered"), Before);
+	EXPECT_EQ(Ask("placement"), Placement);
+	EXPECT_EQ(Ask("toolbar"), Toolbar);
+}
+
+TEST_F(FModuleHosts, WithoutPlacementModeStartIsFatal)
+{
+	Module("unload");
+	Module("unload", "PlacementMode");
+	// In the process that dies only: a factory stays registered.
+	EXPECT_EXIT(
+		{
+			FModuleManager::Get().RegisterStaticallyLinkedModule("PlacementMode",
+				FInitializeStaticallyLinkedModule::CreateLambda([]() -> IModuleInterface* { return nullptr; }));
+			FModuleManager::Get().LoadModule("QuillonEditor");
+		},
+		::testing::ExitedWithCode(3), "PlacementMode");
+}
+
+TEST_F(FModuleHosts, WithoutPlacementModeShutDownDoesAllTheRest)
+{
+	Module("unload", "PlacementMode");
+	Module("unload");
+	EXPECT_FALSE(FModuleManager::Get().IsModuleLoaded("PlacementMode")) << "loaded again for nothing";
+	const json Registered = Ask("registered");
+	EXPECT_FALSE(Contains(Registered["styles"], "QuillonEditorStyle"));
+	EXPECT_FALSE(Contains(Registered["tabs"], "CineStreamWizard"));
+	EXPECT_FALSE(Registered["commands"].contains("QuillonEditor"));
+	EXPECT_EQ(Registered["menuOwners"], 0);
+}
+
+TEST_F(FModuleHosts, KeepACategoryThatIsThereAlreadyAndGetItsItems)
+{
+	Module("unload");
+	IPlacementModeModule::Get().RegisterPlacementCategory(
+		FPlacementCategoryInfo(FText::FromString(TEXT("Theirs")), "Corvane", TEXT("PMTheirs"), 3, false));
+	Module("load");
+	const json Category = FindCategory(Ask("placement"));
+	EXPECT_EQ(Category["name"], "Theirs");
+	EXPECT_EQ(Category["tag"], "PMTheirs");
+	EXPECT_EQ(Category["order"], 3);
+	EXPECT_EQ(Category["sortable"], false);
+	EXPECT_EQ(Category["items"], json({"ZAVCineCamCapture", "ZAVSpoutSenderManager", "ZAVSpoutReceiverManager"}));
+}
+
+TEST_F(FModuleHosts, GetEachItemAgainWhenTheModuleIsStartedASecondTime)
+{
+	const json Before = FindCategory(Ask("placement"));
+	// Only the tab manager minds a second start.
+	FGlobalTabmanager::Get()->UnregisterNomadTabSpawner("CineStreamWizard");
+	FModuleManager::Get().GetModule("QuillonEditor")->StartupModule();
+	json After = FindCategory(Ask("placement"));
+	EXPECT_EQ(After["items"],
+		json({"ZAVCineCamCapture", "ZAVSpoutSenderManager", "ZAVSpoutReceiverManager", "ZAVCineCamCapture",
+			"ZAVSpoutSenderManager", "ZAVSpoutReceiverManager"}));
+	EXPECT_EQ(After["shown"].size(), 6U);
+	for (const char* Setting : {"handle", "name", "nameId", "tag", "order", "sortable"})
+	{
+		EXPECT_EQ(After[Setting], Before[Setting]) << Setting;
+	}
+	EXPECT_EQ(Ask("toolbar")["buttons"].size(), 1U) << "a button of one name is there once";
+}
+
+TEST_F(FModuleHosts, ShowItsCategoryByItsNumberAndItsItemsByName)
+{
+	const json Categories = Ask("placement")["categories"];
+	for (size_t Index = 1; Index < Categories.size(); ++Index)
+	{
+		EXPECT_LE(Categories[Index - 1]["order"], Categories[Index]["order"]);
+	}
+	EXPECT_GE(Categories.size(), 2U) << "it stands among the editor's own";
+	EXPECT_EQ(FindCategory(Ask("placement"))["shown"],
+		json({"ZAVCineCamCapture", "ZAVSpoutReceiverManager", "ZAVSpoutSenderManager"}));
+}
+
+TEST_F(FModuleHosts, AreUntouchedByAModuleThatIsUnloadedWithItsTabOpen)
+{
+	Ask({{"do", "choose"}, {"button", "Corvane"}, {"entry", "Cine Stream Wizard"}});
+	ASSERT_EQ(Ask("tabs")["tabs"].size(), 1U);
+	Module("unload");
+	EXPECT_EQ(Ask("tabs")["tabs"].size(), 0U);
+	Module("load");
+	Ask({{"do", "choose"}, {"button", "Corvane"}, {"entry", "Cine Stream Wizard"}});
+	Ask({{"do", "type"}, {"tab", "CineStreamWizard"}, {"text", "Main"}});
+	Ask({{"do", "click"}, {"tab", "CineStreamWizard"}, {"text", "Create Instant Cinestream Output"}});
+	EXPECT_EQ(Ask("assets")["assets"].size(), 1U);
+	EXPECT_EQ(Ask("outside")["ensures"].size(), 0U);
+}
+
+TEST_F(FModuleHosts, SeeNoFileOpenedByAStart)
+{
+	Module("unload");
+	FFileAccessRecorder::Start();
+	FModuleManager::Get().LoadModule("QuillonEditor");
+	const std::vector<std::string> Opened = FFileAccessRecorder::Stop();
+	EXPECT_EQ(Opened, std::vector<std::string>());
+	ASSERT_TRUE(FModuleManager::Get().IsModuleLoaded("QuillonEditor"));
+	FFileAccessRecorder::Start();
+	EXPECT_EQ(std::fopen("/does/not/exist", "r"), nullptr);
+	EXPECT_EQ(FFileAccessRecorder::Stop(), std::vector<std::string>{"/does/not/exist"}) << "the recorder records";
+}
+
+#ifndef __SANITIZE_ADDRESS__
+TEST_F(FModuleHosts, KeepNoMemoryOfModulesThatStartedAndStopped)
+{
+	const auto CountAfter = [](int Cycles)
+	{
+		for (int Cycle = 0; Cycle < Cycles; ++Cycle)
+		{
+			FModuleManager::Get().UnloadModule("QuillonEditor");
+			FModuleManager::Get().LoadModule("QuillonEditor");
+		}
+		CollectGarbage(GARBAGE_COLLECTION_KEEPFLAGS);
+		return FAllocationCount::GetLive();
+	};
+	const int64 AfterTen = CountAfter(10);
+	EXPECT_EQ(CountAfter(990), AfterTen);
+}
+#endif
