@@ -6,7 +6,7 @@
 #include <cerrno>
 #include <utility>
 
-FDescriptor& FDescriptor::operator=(FDescriptor&& Other)
+FDescriptor& FDescriptor::operator=(FDescriptor&& Other) noexcept
 {
 	std::swap(Handle, Other.Handle);
 	return *this;

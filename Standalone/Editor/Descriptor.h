@@ -9,8 +9,8 @@ class FDescriptor
 public:
 	/** A negative handle is that of nothing. */
 	explicit FDescriptor(int InHandle = -1) : Handle(InHandle) {}
-	FDescriptor(FDescriptor&& Other) : Handle(Other.Handle) { Other.Handle = -1; }
-	FDescriptor& operator=(FDescriptor&& Other);
+	FDescriptor(FDescriptor&& Other) noexcept : Handle(Other.Handle) { Other.Handle = -1; }
+	FDescriptor& operator=(FDescriptor&& Other) noexcept;
 	~FDescriptor() { Close(); }
 
 	int Get() const { return Handle; }

@@ -50,7 +50,7 @@ namespace
 
 	FString ReadText(const FRequest& Request, EEntry Entry)
 	{
-		const FString Text = Request.GetText("text");
+		FString Text = Request.GetText("text");
 		if (Entry == EEntry::Typed && CountCharacters(Text) > LongestTypedText)
 		{
 			throw FRequestError("the text has more than 1,000 characters: use paste");

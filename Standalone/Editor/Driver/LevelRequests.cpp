@@ -79,6 +79,7 @@ namespace
 			throw FRequestError("there is no client " + std::to_string(Active) + " to be active");
 		}
 		std::vector<UWorld*> Worlds;
+		Worlds.reserve(Indices.size());
 		for (const int32 Index : Indices)
 		{
 			Worlds.push_back(Session.GetEditor().GetWorld(Index));

@@ -25,7 +25,7 @@ namespace
 		}
 		for (const json& Element : Json)
 		{
-			const std::string Reason = CheckText(Element);
+			std::string Reason = CheckText(Element);
 			if (!Reason.empty())
 			{
 				return Reason;

@@ -42,6 +42,7 @@ namespace
 			Arguments.push_back("--saved=" + *Options.SavedDir);
 		}
 		std::vector<char*> Pointers;
+		Pointers.reserve(Arguments.size() + 1);
 		for (std::string& Argument : Arguments)
 		{
 			Pointers.push_back(Argument.data());

@@ -42,7 +42,7 @@ public:
 	 */
 	virtual void RefreshPluginsList() = 0;
 
-	/** Begins anew, without plugins and search paths. The real engine, whose process is one editor, has no such thing. */
+	/** Begins anew, without plugins and search paths. The real engine's process is one editor: it has none. */
 	virtual void ForgetPlugins() = 0;
 
 	/**
