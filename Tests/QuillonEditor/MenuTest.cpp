@@ -5,7 +5,16 @@
 
 #include "TemporaryFolder.h"
 
+#include "EditorMenus.h"
+#include "Framework/Docking/TabManager.h"
+#include "Framework/MultiBox/MultiBox.h"
 #include "Interfaces/IPluginManager.h"
+#include "Misc/CoreDelegates.h"
+#include "Standalone/TextFormatInspector.h"
+#include "Styling/CoreStyle.h"
+#include "TextDescription.h"
+#include "ToolMenus.h"
+#include "Widgets/Docking/SDockTab.h"
 
 using nlohmann::json;
 
@@ -51,6 +60,54 @@ TEST_F(FPluginMenu, CanBeSearchedClosesAfterAChoiceAndScrollsBeyondAThousandUnit
 	EXPECT_EQ(Menu["maxHeight"], 1000);
 }
 
+TEST_F(FPluginMenu, HangsOnAButtonThatDoesNothingItselfAndIsDrawnInTheCoreStyle)
+{
+	const FToolMenuEntry& Button = *FEditorMenus::GetButtons()[0].Entry;
+	const FUIAction* Action = Button.Action.GetUIAction();
+	ASSERT_NE(Action, nullptr);
+	EXPECT_FALSE(Action->ExecuteAction.IsBound());
+	EXPECT_FALSE(Action->CanExecuteAction.IsBound());
+	EXPECT_FALSE(Action->GetActionCheckState.IsBound());
+	EXPECT_TRUE(Button.TutorialHighlightName.IsNone());
+	std::string Error;
+	const TSharedPtr<const FMultiBox> Menu = FEditorMenus::Open(TEXT("Corvane"), Error);
+	EXPECT_EQ(Menu->StyleSet, &FCoreStyle::Get());
+	EXPECT_FALSE(Menu->Extender.IsValid());
+	EXPECT_FALSE(Menu->bCloseSelfOnly);
+	EXPECT_TRUE(Menu->MenuName.IsNone());
+}
+
+TEST_F(FPluginMenu, BringsTheWizardsOpenTabForward)
+{
+	FGlobalTabmanager::Get()->RegisterNomadTabSpawner("Other",
+		FOnSpawnTab::CreateLambda([](const FSpawnTabArgs&) { return SNew(SDockTab).TabRole(ETabRole::NomadTab); }));
+	Choose("Cine Stream Wizard");
+	Ask({{"do", "invoke-tab"}, {"tab", "Other"}});
+	Choose("Cine Stream Wizard");
+	const json Tabs = Ask("tabs")["tabs"];
+	ASSERT_EQ(Tabs.size(), 2U);
+	EXPECT_EQ(Tabs[0]["id"], "CineStreamWizard");
+	EXPECT_EQ(Tabs[0]["front"], true);
+	Ask({{"do", "close-tab"}, {"tab", "Other"}});
+	FGlobalTabmanager::Get()->UnregisterNomadTabSpawner("Other");
+}
+
+TEST_F(FPluginMenu, FormatsTheVersionsIntoATranslatedPattern)
+{
+	FText Shown;
+	FCoreDelegates::ModalErrorMessage = FCoreDelegates::FOnModalMessageBox::CreateLambda(
+		[&Shown](EAppMsgType::Type, const FText& Text, const FText&)
+		{
+			Shown = Text;
+			return EAppReturnType::Ok;
+		});
+	Choose("Plugin Version");
+	FCoreDelegates::ModalErrorMessage.Unbind();
+	ASSERT_NE(FTextFormatInspector::GetPattern(Shown), nullptr);
+	EXPECT_EQ(DescribeText(*FTextFormatInspector::GetPattern(Shown)),
+		"FQuillonEditorModule,PluginButtonDialogText,Plugin Version: {0} \nEngine Version: {1}");
+}
+
 TEST_F(FPluginMenu, HasFourSectionsOfWhichOnlyToolsIsTranslated)
 {
 	json Headings;
@@ -94,6 +151,9 @@ TEST_F(FPluginMenu, ShowsTheOtherCommandsAsTheyAre)
 TEST_F(FPluginMenu, FlipsEachToggleForItself)
 {
 	const json Editor = FindEntry("Editor Viewport Rendering")["checked"];
+	Choose("Editor Viewport Rendering");
+	EXPECT_EQ(FindEntry("Editor Viewport Rendering")["checked"], !Editor.get<bool>());
+	Choose("Editor Viewport Rendering");
 	const json Runtime = FindEntry("Runtime Viewport Rendering")["checked"];
 	Choose("Runtime Viewport Rendering");
 	EXPECT_EQ(FindEntry("Editor Viewport Rendering")["checked"], Editor);

@@ -2,14 +2,21 @@
 #include "DrivenEditor.h"
 
 #include <algorithm>
+#include <cstdlib>
+#include <memory>
 
 #include "AllocationCount.h"
 #include "FileAccessRecorder.h"
 
+#include "Framework/Commands/InputBindingManager.h"
 #include "Framework/Docking/TabManager.h"
 #include "IPlacementModeModule.h"
 #include "Modules/ModuleManager.h"
+#include "Standalone/ToolMenusStartup.h"
+#include "Styling/SlateStyleRegistry.h"
+#include "ToolMenus.h"
 #include "UObject/UObjectGlobals.h"
+#include "Widgets/SNullWidget.h"
 
 using nlohmann::json;
 
@@ -19,6 +26,41 @@ namespace
 	{
 		return std::find(List.begin(), List.end(), Name) != List.end();
 	}
+
+	/** What of the module is registered at one moment. */
+	struct FSeen
+	{
+		static FSeen Look()
+		{
+			FSeen Seen;
+			Seen.bLooked = true;
+			Seen.bStyle = FSlateStyleRegistry::FindSlateStyle("QuillonEditorStyle") != nullptr;
+			Seen.bTab = FGlobalTabmanager::Get()->HasTabSpawner("CineStreamWizard");
+			Seen.bCommands =
+				FInputBindingManager::Get().FindCommandInContext("QuillonEditor", "PluginVersion").IsValid();
+			Seen.bCategory = FModuleManager::Get().IsModuleLoaded("PlacementMode") &&
+				IPlacementModeModule::Get().GetRegisteredPlacementCategory("Corvane");
+			return Seen;
+		}
+		/** Looks once the last copy of what this returns is gone. */
+		std::shared_ptr<void> LookWhenReleased()
+		{
+			return std::shared_ptr<void>(nullptr,
+				[this](void*)
+				{
+					*this = Look();
+					MenuOwners = FToolMenusStartup::GetOwnerCount();
+				});
+		}
+		bool HasAll() const { return bStyle && bTab && bCommands; }
+
+		bool bLooked = false;
+		bool bStyle = false;
+		bool bTab = false;
+		bool bCommands = false;
+		bool bCategory = false;
+		int32 MenuOwners = -1;
+	};
 
 	/** The category of the Place Actors panel, or null. */
 	json FindCategory(const json& Placement)
@@ -76,6 +118,92 @@ TEST_F(FModuleHosts, ComeBackToWhereTheyWereAfterAHundredStarts)
 	EXPECT_EQ(Ask("registered"), Before);
 	EXPECT_EQ(Ask("placement"), Placement);
 	EXPECT_EQ(Ask("toolbar"), Toolbar);
+}
+
+TEST_F(FModuleHosts, GetTheButtonOnceMenusAreUp)
+{
+	Module("unload");
+	FToolMenusStartup::ShutDown();
+	Module("load");
+	EXPECT_EQ(Ask("registered")["startupCallbacks"], 1);
+	EXPECT_EQ(Ask("toolbar")["buttons"].size(), 0U);
+	FToolMenusStartup::Run();
+	EXPECT_EQ(Ask("registered")["startupCallbacks"], 0);
+	EXPECT_EQ(Ask("toolbar")["buttons"].size(), 1U);
+}
+
+TEST_F(FModuleHosts, GetNoButtonOfAModuleThatStoppedBeforeMenusWereUp)
+{
+	Module("unload");
+	FToolMenusStartup::ShutDown();
+	Module("load");
+	Module("unload");
+	EXPECT_EQ(Ask("registered")["startupCallbacks"], 0);
+	FToolMenusStartup::Run();
+	EXPECT_EQ(Ask("toolbar")["buttons"].size(), 0U);
+}
+
+TEST_F(FModuleHosts, GetTheTabBeforeTheCommands)
+{
+	Module("unload");
+	// Both names are taken: the first complaint tells.
+	EXPECT_EXIT(
+		{
+			FGlobalTabmanager::Get()->RegisterNomadTabSpawner("CineStreamWizard", FOnSpawnTab());
+			TSharedPtr<FUICommandInfo> Theirs;
+			FUICommandInfo::MakeCommandInfo(
+				MakeShared<FBindingContext>(FName("QuillonEditor"), FText(), FName(), FName()), Theirs, "Theirs",
+				FText(), FText(), FSlateIcon(), EUserInterfaceActionType::Button, FInputChord());
+			FModuleManager::Get().LoadModule("QuillonEditor");
+		},
+		::testing::ExitedWithCode(3), "Tab spawner 'CineStreamWizard'");
+}
+
+TEST_F(FModuleHosts, GetThePlacementCategoryLast)
+{
+	Module("unload");
+	Module("unload", "PlacementMode");
+	EXPECT_EXIT(
+		{
+			FModuleManager::Get().RegisterStaticallyLinkedModule("PlacementMode",
+				FInitializeStaticallyLinkedModule::CreateLambda([this]() -> IModuleInterface*
+					{ std::_Exit(FSeen::Look().HasAll() && Ask("toolbar")["buttons"].size() == 1 ? 0 : 1); }));
+			FModuleManager::Get().LoadModule("QuillonEditor");
+		},
+		::testing::ExitedWithCode(0), "");
+}
+
+TEST_F(FModuleHosts, LoseThePlacementCategoryFirst)
+{
+	Module("unload");
+	FSeen Seen;
+	{
+		FPlacementCategoryInfo Theirs(FText(), "Corvane", FString());
+		Theirs.CustomGenerator = [Watch = Seen.LookWhenReleased()]() { return SNullWidget::NullWidget; };
+		IPlacementModeModule::Get().RegisterPlacementCategory(Theirs);
+	}
+	Module("load");
+	Module("unload");
+	EXPECT_TRUE(Seen.bLooked);
+	EXPECT_TRUE(Seen.HasAll());
+	EXPECT_EQ(Seen.MenuOwners, 1);
+}
+
+TEST_F(FModuleHosts, LoseTheMenusAfterTheCategoryAndBeforeTheCommands)
+{
+	FSeen Seen;
+	{
+		const FToolMenuOwnerScoped Owner(FModuleManager::Get().GetModule("QuillonEditor"));
+		UToolMenus::Get()
+			->ExtendMenu("LevelEditor.Other")
+			->FindOrAddSection("Section")
+			.AddEntry(FToolMenuEntry::InitComboButton("Entry", FUIAction(),
+				FOnGetContent::CreateLambda([Watch = Seen.LookWhenReleased()]() { return SNullWidget::NullWidget; })));
+	}
+	Module("unload");
+	EXPECT_TRUE(Seen.bLooked);
+	EXPECT_FALSE(Seen.bCategory);
+	EXPECT_TRUE(Seen.HasAll());
 }
 
 TEST_F(FModuleHosts, WithoutPlacementModeStartIsFatal)

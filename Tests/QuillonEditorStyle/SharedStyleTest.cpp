@@ -4,11 +4,15 @@
 
 #include "StandaloneEditor.h"
 
+#include "EditorMenus.h"
 #include "Framework/Docking/TabManager.h"
+#include "Framework/MultiBox/MultiBox.h"
 #include "Interfaces/IPluginManager.h"
 #include "QuillonEditor.h"
+#include "QuillonEditorCommands.h"
 #include "QuillonEditorStyle.h"
 #include "Standalone/EnsureReports.h"
+#include "Standalone/ToolMenusStartup.h"
 #include "Styling/SlateStyleRegistry.h"
 
 // What happens when somebody else still shares the style set while it is shut down. Nothing hands the set out, so
@@ -30,6 +34,13 @@ namespace
 		friend typename TagType::FPointer GetMember(TagType) { return Member; }
 	};
 	template struct TMemberAccess<FStyleInstance, &FQuillonEditorStyle::StyleInstance>;
+
+	struct FPluginCommands
+	{
+		typedef TSharedPtr<FUICommandList> FQuillonEditorModule::*FPointer;
+		friend FPointer GetMember(FPluginCommands);
+	};
+	template struct TMemberAccess<FPluginCommands, &FQuillonEditorModule::PluginCommands>;
 }
 
 /** An editor without the plugin's modules: the test initialises the style set itself. */
@@ -63,7 +74,7 @@ protected:
 /** In a process of its own: a call site reports once. */
 typedef FSharedStyle FModuleShutDownDeathTest;
 
-TEST_F(FModuleShutDownDeathTest, UnregistersTheTabBeforeItReleasesTheStyle)
+TEST_F(FModuleShutDownDeathTest, UnregistersAllElseBeforeItReleasesTheStyle)
 {
 	FQuillonEditorStyle::Shutdown();
 	EXPECT_EXIT(
@@ -72,12 +83,30 @@ TEST_F(FModuleShutDownDeathTest, UnregistersTheTabBeforeItReleasesTheStyle)
 			Module.StartupModule();
 			const TSharedPtr<FSlateStyleSet> Shared = *GetMember(FStyleInstance());
 			int Status = 1;
-			FEnsureReports::OnReported().AddLambda([&Status](const FEnsureReport&)
-				{ Status = FGlobalTabmanager::Get()->HasTabSpawner("CineStreamWizard") ? 2 : 0; });
+			FEnsureReports::OnReported().AddLambda(
+				[&Status](const FEnsureReport&)
+				{
+					const bool bEarly = FGlobalTabmanager::Get()->HasTabSpawner("CineStreamWizard") ||
+						FQuillonEditorCommands::IsRegistered() || FToolMenusStartup::GetOwnerCount() > 0;
+					Status = bEarly ? 2 : 0;
+				});
 			Module.ShutdownModule();
 			std::_Exit(Status);
 		},
 		::testing::ExitedWithCode(0), "StyleInstance.IsUnique\\(\\)");
+}
+
+TEST_F(FSharedStyle, GoesWithMenusThatKeepTheCommandListOfTheirRegistration)
+{
+	FQuillonEditorStyle::Shutdown();
+	FQuillonEditorModule Module;
+	Module.StartupModule();
+	(Module.*GetMember(FPluginCommands())).Reset();
+	std::string Error;
+	const TSharedPtr<const FMultiBox> Menu = FEditorMenus::Open(TEXT("Corvane"), Error);
+	ASSERT_TRUE(Menu.IsValid()) << Error;
+	EXPECT_TRUE(Menu->Sections[0].Blocks[0]->CanExecute());
+	Module.ShutdownModule();
 }
 
 TEST_F(FSharedStyle, IsReportedAtShutDownWithTheExpressionAndTheFileAndReleasedAnyway)

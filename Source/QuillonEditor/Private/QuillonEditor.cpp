@@ -13,7 +13,7 @@
 // The order of both lists is part of the module's contract: what is registered first may be used by what follows. The
 // second is not the first reversed: what the user could still reach goes first.
 
-// From a wide literal: other plugins look the category up by this very spelling.
+// Other plugins may add items of their own under this handle.
 FQuillonEditorModule::FQuillonEditorModule() : PlacementCategoryName(TEXT("Corvane")) {}
 
 void FQuillonEditorModule::StartupModule()

@@ -21,8 +21,8 @@ void FQuillonEditorModule::RegisterMenus()
 	UToolMenu* ToolBar = UToolMenus::Get()->ExtendMenu("LevelEditor.LevelEditorToolBar");
 	FToolMenuSection& Section = ToolBar->FindOrAddSection("Settings");
 
-	// The tooltip's key is misspelt and stays so, as translators look the text up by it. The brush's name differs in
-	// letter case from the style set's, which names ignore.
+	// Label and tooltip carry the same text on purpose. The tooltip's key is misspelt and stays so, as translators look
+	// the text up by it. The brush's name differs in letter case from the style set's, which names ignore.
 	Section.AddEntry(FToolMenuEntry::InitComboButton("Corvane", FUIAction(),
 		FOnGetContent::CreateRaw(this, &FQuillonEditorModule::GenerateMenuContent, PluginCommands),
 		LOCTEXT("CorvaneBtn", "Corvane"), LOCTEXT("CorvaneBtnTootlip", "Corvane"),
@@ -34,7 +34,8 @@ TSharedRef<SWidget> FQuillonEditorModule::GenerateMenuContent(TSharedPtr<FUIComm
 	const FQuillonEditorCommands& Plugin = FQuillonEditorCommands::Get();
 	FMenuBuilder Menu(true, Commands, TSharedPtr<FExtender>(), false, &FCoreStyle::Get(), true, NAME_None);
 
-	// Of the headings only this one is translated; the others are shown as they stand, in every language.
+	// Of the headings only this one is translated. The others are established as plain strings, and so are the wizard's
+	// label and tooltip: they show these words in every language, whatever the command's own texts are translated to.
 	Menu.BeginSection(NAME_None, LOCTEXT("ToolsSection", "Tools"));
 	Menu.AddMenuEntry(Plugin.UseCineStreamSetupWizard, NAME_None, FText::FromString(TEXT("Cine Stream Wizard")),
 		FText::FromString(TEXT("Use to create a simple Cinecam Capture and Spout setup to stream out of ue4")),
@@ -50,7 +51,8 @@ TSharedRef<SWidget> FQuillonEditorModule::GenerateMenuContent(TSharedPtr<FUIComm
 	Menu.AddMenuEntry(Plugin.PluginVersion);
 	Menu.EndSection();
 
-	// The hook's blank stays: extensions of this menu name it so.
+	// The hook's blank stays: extensions of this menu name it so. The entries stand in the menu's own order, not in
+	// that of the commands.
 	Menu.BeginSection("Support Section", FText::FromString(TEXT("Support")));
 	Menu.AddMenuEntry(Plugin.KnowledgeCentre);
 	Menu.AddMenuEntry(Plugin.VideoTutorials);

@@ -36,7 +36,8 @@ void FQuillonEditorModule::RegisterPlaceableItems(const FPlacementCategoryInfo* 
 	for (UClass* ActorClass : {AZAVCineCamCapture::StaticClass(), AZAVSpoutSenderManager::StaticClass(),
 			 AZAVSpoutReceiverManager::StaticClass()})
 	{
-		// No factory: the editor picks the one that suits the class.
+		// No factory: the editor picks the one that suits the class. The item's id is not kept, as items go with their
+		// category.
 		PlacementMode.RegisterPlaceableItem(
 			Handle, MakeShared<FPlaceableItem>(static_cast<UActorFactory*>(nullptr), FAssetData(ActorClass)));
 	}

@@ -73,7 +73,10 @@ private:
 	/** The unique handle of the placement category. Never changes. */
 	FName PlacementCategoryName;
 
-	/** What the plugin's commands do. Lives as long as the module object: a menu may still show it at shut-down. */
+	/**
+	 * What the plugin's commands do. Not reset at shut-down. Its actions are bound raw to this object: a menu that
+	 * shows it must be closed before the module goes.
+	 */
 	TSharedPtr<FUICommandList> PluginCommands;
 
 	/** The wizard that was placed in the tab last. Weak: a wizard lives as long as a tab shows it. */

@@ -6,19 +6,18 @@
 #include "ToolMenus.h"
 #include "Widgets/Docking/SDockTab.h"
 #include "Widgets/Input/SCheckBox.h"
+#include "Widgets/SNullWidget.h"
 #include "Widgets/Text/STextBlock.h"
 
 #if WITH_DEV_AUTOMATION_TESTS
 
 namespace
 {
-	typedef decltype(FCoreDelegates::ModalErrorMessage) FMessageBoxDelegate;
-	typedef decltype(FCoreDelegates::ShouldLaunchUrl) FAddressDelegate;
-
 	const TCHAR* const MenuTab = TEXT("QuillonEditorMenuUser");
 }
 
 FMenuUser::FMenuUser()
+	: FormerMessageBox(FCoreDelegates::ModalErrorMessage), FormerShouldLaunch(FCoreDelegates::ShouldLaunchUrl)
 {
 	FCoreDelegates::ModalErrorMessage = FMessageBoxDelegate::CreateLambda(
 		[this](EAppMsgType::Type Type, const FText& Message, const FText& /*Title*/)
@@ -48,8 +47,8 @@ FMenuUser::~FMenuUser()
 {
 	FGlobalTabmanager::Get()->FindExistingLiveTab(FTabId(MenuTab))->RequestCloseTab();
 	FGlobalTabmanager::Get()->UnregisterNomadTabSpawner(MenuTab);
-	FCoreDelegates::ModalErrorMessage.Unbind();
-	FCoreDelegates::ShouldLaunchUrl.Unbind();
+	FCoreDelegates::ModalErrorMessage = FormerMessageBox;
+	FCoreDelegates::ShouldLaunchUrl = FormerShouldLaunch;
 }
 
 FToolMenuEntry* FMenuUser::FindButton()
@@ -61,7 +60,11 @@ FToolMenuEntry* FMenuUser::FindButton()
 
 void FMenuUser::Reopen()
 {
-	Menu = FindButton()->ToolBarData.ComboButtonContextMenuGenerator.OnGetContent.Execute();
+	const FToolMenuEntry* Button = FindButton();
+	// Nothing to read is a failed test, not a crash of the editor.
+	Menu = Button && Button->ToolBarData.ComboButtonContextMenuGenerator.OnGetContent.IsBound()
+		? Button->ToolBarData.ComboButtonContextMenuGenerator.OnGetContent.Execute()
+		: SNullWidget::NullWidget;
 	const TSharedPtr<SDockTab> Tab = FGlobalTabmanager::Get()->TryInvokeTab(FTabId(MenuTab));
 	Tab->SetContent(GetMenu());
 }
@@ -69,7 +72,7 @@ void FMenuUser::Reopen()
 TArray<FString> FMenuUser::GetTexts() const
 {
 	TArray<FString> Texts;
-	for (const TSharedRef<SWidget>& Widget : FSlateUser::FindAll(GetMenu(), TEXT("STextBlock")))
+	for (const TSharedRef<SWidget>& Widget : FWidgetUser::FindAll(GetMenu(), TEXT("STextBlock")))
 	{
 		Texts.Add(StaticCastSharedRef<STextBlock>(Widget)->GetText().ToString());
 	}
@@ -78,7 +81,7 @@ TArray<FString> FMenuUser::GetTexts() const
 
 FString FMenuUser::DescribeTextOf(const TCHAR* Shown) const
 {
-	for (const TSharedRef<SWidget>& Widget : FSlateUser::FindAll(GetMenu(), TEXT("STextBlock")))
+	for (const TSharedRef<SWidget>& Widget : FWidgetUser::FindAll(GetMenu(), TEXT("STextBlock")))
 	{
 		const FText Text = StaticCastSharedRef<STextBlock>(Widget)->GetText();
 		if (Text.ToString() == Shown)
@@ -92,7 +95,7 @@ FString FMenuUser::DescribeTextOf(const TCHAR* Shown) const
 TArray<ECheckBoxState> FMenuUser::GetChecks() const
 {
 	TArray<ECheckBoxState> Checks;
-	for (const TSharedRef<SWidget>& Widget : FSlateUser::FindAll(GetMenu(), TEXT("SCheckBox")))
+	for (const TSharedRef<SWidget>& Widget : FWidgetUser::FindAll(GetMenu(), TEXT("SCheckBox")))
 	{
 		Checks.Add(StaticCastSharedRef<SCheckBox>(Widget)->GetCheckedState());
 	}
@@ -101,11 +104,11 @@ TArray<ECheckBoxState> FMenuUser::GetChecks() const
 
 void FMenuUser::Choose(const TCHAR* Label)
 {
-	for (const TSharedRef<SWidget>& Widget : FSlateUser::FindAll(GetMenu(), TEXT("STextBlock")))
+	for (const TSharedRef<SWidget>& Widget : FWidgetUser::FindAll(GetMenu(), TEXT("STextBlock")))
 	{
 		if (StaticCastSharedRef<STextBlock>(Widget)->GetText().ToString() == Label)
 		{
-			FSlateUser::Click(Widget);
+			FWidgetUser::Click(Widget);
 			return;
 		}
 	}

@@ -3,17 +3,18 @@
 
 #include "CoreMinimal.h"
 
+#include "Misc/CoreDelegates.h"
 #include "Misc/MessageDialog.h"
 #include "Styling/SlateTypes.h"
 
-#include "SlateUser.h"
+#include "WidgetUser.h"
 
 struct FToolMenuEntry;
 
 /**
  * A user who opens the plugin's menu from the toolbar, reads it and chooses. The menu is shown in a tab of this
  * object's own, so that it can be clicked like any widget. Message boxes and addresses are caught for as long as this
- * object lives, and nothing leaves the editor.
+ * object lives, and nothing leaves the editor. A menu that can't be opened is empty.
  */
 class FMenuUser
 {
@@ -47,5 +48,11 @@ public:
 	TArray<FString> Addresses;
 
 private:
+	typedef decltype(FCoreDelegates::ModalErrorMessage) FMessageBoxDelegate;
+	typedef decltype(FCoreDelegates::ShouldLaunchUrl) FAddressDelegate;
+
 	TSharedPtr<SWidget> Menu;
+	/** What the editor had bound before; it gets that back. */
+	FMessageBoxDelegate FormerMessageBox;
+	FAddressDelegate FormerShouldLaunch;
 };

@@ -5,7 +5,7 @@
 #include "Misc/AutomationTest.h"
 #include "UObject/Class.h"
 
-#include "SlateUser.h"
+#include "WidgetUser.h"
 
 #if WITH_DEV_AUTOMATION_TESTS
 

@@ -14,7 +14,7 @@
 #include "Widgets/Input/SEditableTextBox.h"
 #include "Widgets/Text/STextBlock.h"
 
-#include "SlateUser.h"
+#include "WidgetUser.h"
 #include "ZAVCineCamCapture.h"
 #include "ZAVSpoutSenderManager.h"
 
@@ -86,17 +86,17 @@ void FWizardUser::FocusNameBox()
 
 void FWizardUser::PressEnter()
 {
-	FSlateUser::PressKey(EKeys::Enter);
+	FWidgetUser::PressKey(EKeys::Enter);
 }
 
 void FWizardUser::ClickCreate()
 {
-	FSlateUser::Click(GetCreateButton());
+	FWidgetUser::Click(GetCreateButton());
 }
 
 void FWizardUser::ClickDone()
 {
-	FSlateUser::Click(GetDoneButton());
+	FWidgetUser::Click(GetDoneButton());
 }
 
 void FWizardUser::Create(const FString& Name)
@@ -167,12 +167,12 @@ TSharedRef<SWidget> FWizardUser::GetWizard() const
 
 TArray<TSharedRef<SWidget>> FWizardUser::FindAll(const TCHAR* Type) const
 {
-	return FSlateUser::FindAll(GetWizard(), Type);
+	return FWidgetUser::FindAll(GetWizard(), Type);
 }
 
 bool FWizardUser::IsShown(const TSharedRef<SWidget>& Widget) const
 {
-	return FSlateUser::IsShown(GetWizard(), Widget);
+	return FWidgetUser::IsShown(GetWizard(), Widget);
 }
 
 bool FWizardUser::IsCreatorPageShown() const

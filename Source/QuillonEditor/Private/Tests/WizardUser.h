@@ -3,7 +3,7 @@
 
 #include "CoreMinimal.h"
 
-#include "SlateUser.h"
+#include "WidgetUser.h"
 #include "Widgets/SWidget.h"
 
 class AActor;

@@ -2,13 +2,16 @@
 #include "Framework/MultiBox/MultiBoxBuilder.h"
 
 FMenuBuilder::FMenuBuilder(const bool bInShouldCloseWindowAfterMenuSelection,
-	TSharedPtr<const FUICommandList> InCommandList, TSharedPtr<FExtender> /*InExtender*/, const bool /*bCloseSelfOnly*/,
-	const ISlateStyle* InStyleSet, bool bInSearchable, FName /*InMenuName*/)
+	TSharedPtr<const FUICommandList> InCommandList, TSharedPtr<FExtender> InExtender, const bool bCloseSelfOnly,
+	const ISlateStyle* InStyleSet, bool bInSearchable, FName InMenuName)
 	: CommandList(InCommandList)
 {
 	MultiBox.bShouldCloseWindowAfterMenuSelection = bInShouldCloseWindowAfterMenuSelection;
 	MultiBox.bIsSearchable = bInSearchable;
 	MultiBox.StyleSet = InStyleSet;
+	MultiBox.bCloseSelfOnly = bCloseSelfOnly;
+	MultiBox.MenuName = InMenuName;
+	MultiBox.Extender = InExtender;
 }
 
 void FMenuBuilder::BeginSection(FName InExtensionHook, const TAttribute<FText>& InHeadingText)

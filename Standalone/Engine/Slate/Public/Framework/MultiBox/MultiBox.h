@@ -7,6 +7,7 @@
 #include "Widgets/DeclarativeSyntaxSupport.h"
 #include "Widgets/SCompoundWidget.h"
 
+class FExtender;
 class ISlateStyle;
 class SMultiBoxWidget;
 
@@ -65,6 +66,11 @@ public:
 	/** In slate units; what does not fit is scrolled to. */
 	uint32 MaxHeight = 0;
 	const ISlateStyle* StyleSet = nullptr;
+	/** Whether a choice closes only this menu, and not those that it hangs from. */
+	bool bCloseSelfOnly = false;
+	/** By which others may extend the menu. */
+	FName MenuName;
+	TSharedPtr<FExtender> Extender;
 	/** In order; none of them is empty. */
 	TArray<FMultiBoxSection> Sections;
 };

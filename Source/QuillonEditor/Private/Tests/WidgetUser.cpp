@@ -1,5 +1,5 @@
 // Copyright Corvane. MIT License.
-#include "SlateUser.h"
+#include "WidgetUser.h"
 
 #include "Framework/Application/SlateApplication.h"
 #include "Input/Events.h"
@@ -25,14 +25,14 @@ namespace
 	}
 }
 
-TArray<TSharedRef<SWidget>> FSlateUser::FindAll(const TSharedRef<SWidget>& Root, const TCHAR* Type)
+TArray<TSharedRef<SWidget>> FWidgetUser::FindAll(const TSharedRef<SWidget>& Root, const TCHAR* Type)
 {
 	TArray<TSharedRef<SWidget>> Found;
 	CollectWidgets(Root, FName(Type), Found);
 	return Found;
 }
 
-bool FSlateUser::IsShown(const TSharedRef<SWidget>& Root, const TSharedRef<SWidget>& Widget)
+bool FWidgetUser::IsShown(const TSharedRef<SWidget>& Root, const TSharedRef<SWidget>& Widget)
 {
 	if (!Root->GetVisibility().IsVisible())
 	{
@@ -53,7 +53,7 @@ bool FSlateUser::IsShown(const TSharedRef<SWidget>& Root, const TSharedRef<SWidg
 	return false;
 }
 
-void FSlateUser::Click(const TSharedRef<SWidget>& Widget)
+void FWidgetUser::Click(const TSharedRef<SWidget>& Widget)
 {
 	FSlateApplication& Slate = FSlateApplication::Get();
 	FWidgetPath Path;
@@ -70,7 +70,7 @@ void FSlateUser::Click(const TSharedRef<SWidget>& Widget)
 	Slate.RoutePointerUpEvent(Path, Release);
 }
 
-void FSlateUser::PressKey(const FKey& Key)
+void FWidgetUser::PressKey(const FKey& Key)
 {
 	FSlateApplication::Get().ProcessKeyDownEvent(FKeyEvent(Key, FModifierKeysState(), 0, false, 0, 0));
 }

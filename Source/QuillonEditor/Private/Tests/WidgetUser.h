@@ -9,7 +9,7 @@ struct FKey;
 
 /** What a user sees and does with widgets of any kind: finds them by type in the order of the tree, clicks, presses
  * keys. */
-class FSlateUser
+class FWidgetUser
 {
 public:
 	/** The widget and its descendants of a type ("STextBlock"), in tree order. */
