@@ -3,6 +3,7 @@
 
 #include "Engine/Level.h"
 #include "Misc/CoreDelegates.h"
+#include "Misc/MessageDialog.h"
 #include "StandaloneEditorEvents.h"
 
 FOutsideRecorder::FOutsideRecorder()
@@ -29,15 +30,7 @@ FOutsideRecorder::~FOutsideRecorder()
 EAppReturnType::Type FOutsideRecorder::OnMessage(EAppMsgType::Type Kind, const FText& Text, const FText& Title)
 {
 	Messages.push_back({Kind, Text.ToString(), Title.ToString()});
-	switch (Kind)
-	{
-		case EAppMsgType::YesNo:
-			return EAppReturnType::No;
-		case EAppMsgType::OkCancel:
-			return EAppReturnType::Cancel;
-		default:
-			return EAppReturnType::Ok;
-	}
+	return FMessageDialog::GetDefaultAnswer(Kind);
 }
 
 bool FOutsideRecorder::OnAddress(const TCHAR* Address)

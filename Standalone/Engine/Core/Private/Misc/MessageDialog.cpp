@@ -13,6 +13,11 @@ EAppReturnType::Type FMessageDialog::Open(EAppMsgType::Type MessageType, const F
 	}
 	const FString Line = (OptTitle ? OptTitle->ToString() + TEXT(": ") : FString()) + Message.ToString();
 	std::fprintf(stderr, "%s\n", TCHAR_TO_UTF8(Line));
+	return GetDefaultAnswer(MessageType);
+}
+
+EAppReturnType::Type FMessageDialog::GetDefaultAnswer(EAppMsgType::Type MessageType)
+{
 	switch (MessageType)
 	{
 		case EAppMsgType::YesNo:

@@ -13,4 +13,7 @@ struct CORE_API FMessageDialog
 	 */
 	static EAppReturnType::Type Open(
 		EAppMsgType::Type MessageType, const FText& Message, const FText* OptTitle = nullptr);
+
+	/** What a box that nobody sees answers: the button that changes nothing. The real engine keeps it to itself. */
+	static EAppReturnType::Type GetDefaultAnswer(EAppMsgType::Type MessageType);
 };
