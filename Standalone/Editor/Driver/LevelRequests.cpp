@@ -3,6 +3,7 @@
 
 #include "LevelPlan.h"
 
+#include "AssetRegistry/IAssetRegistry.h"
 #include "Driver/DriverSession.h"
 #include "Editor.h"
 #include "EditorViews.h"
@@ -14,6 +15,11 @@ namespace
 {
 	FAnswer OpenLevel(FDriverSession&, const FRequest& Request)
 	{
+		// Its module may have been unloaded, and the assets of a level are fatal without it.
+		if (!IAssetRegistry::Get())
+		{
+			throw FRequestError("levels can't be opened without the module \"AssetRegistry\"");
+		}
 		std::string Error;
 		if (!FLevelFile::Open(Request.GetUtf8("file"), Error))
 		{

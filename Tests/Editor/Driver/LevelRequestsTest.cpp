@@ -74,6 +74,16 @@ TEST_F(FLevelRequestsTest, RefusesFilesThatAreNoLevel)
 	EXPECT_NE(GetRefusal({{"do", "open-level"}, {"file", ""}}), "");
 }
 
+TEST_F(FLevelRequestsTest, RefusesToOpenALevelWithoutTheAssetRegistry)
+{
+	Ask({{"do", "module"}, {"name", "AssetRegistry"}, {"action", "unload"}});
+	const std::string Studio = std::string(QUILLON_SAMPLES_DIR) + "/studio.json";
+	EXPECT_EQ(GetRefusal({{"do", "open-level"}, {"file", Studio}}),
+		"levels can't be opened without the module \"AssetRegistry\"");
+	Ask({{"do", "module"}, {"name", "AssetRegistry"}, {"action", "load"}});
+	Ask({{"do", "open-level"}, {"file", Studio}});
+}
+
 TEST_F(FLevelRequestsTest, RefusesFilesThatCannotBeWritten)
 {
 	Place("ZAVSpoutReceiverManager");
