@@ -9,6 +9,24 @@ UWorld* FEditorViews::GetLevelWorld()
 	return GEditor->GetEditorWorldContext().World();
 }
 
+TArray<FEditorViewportClient*> FEditorViews::FindLevelClients()
+{
+	TArray<FEditorViewportClient*> Clients;
+	FEditorViewportClient* Active = FindActiveClient();
+	if (Active && Active->GetWorld() == GetLevelWorld())
+	{
+		Clients.Add(Active);
+	}
+	for (FEditorViewportClient* Client : GEditor->GetAllViewportClients())
+	{
+		if (Client != Active && Client->GetWorld() == GetLevelWorld())
+		{
+			Clients.Add(Client);
+		}
+	}
+	return Clients;
+}
+
 FEditorViewportClient* FEditorViews::FindActiveClient()
 {
 	const FViewport* Active = GEditor->GetActiveViewport();

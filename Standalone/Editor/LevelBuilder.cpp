@@ -58,7 +58,7 @@ namespace
 
 	void SetView(const FLevelPlan& Plan)
 	{
-		if (FEditorViewportClient* Client = FEditorViews::FindActiveClient())
+		for (FEditorViewportClient* Client : FEditorViews::FindLevelClients())
 		{
 			Client->SetViewLocation(Plan.ViewLocation);
 			Client->SetViewRotation(Plan.ViewRotation);

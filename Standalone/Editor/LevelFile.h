@@ -5,7 +5,8 @@
 #include <string>
 
 /**
- * The open level as a file. Works on GEditor's level, on the assets in memory and on the view of the active viewport.
+ * The open level as a file. Works on GEditor's level, on the assets in memory and on the viewports that show the level:
+ * opening sets the view of each, saving takes that of the active one, or of the first.
  * All errors are one line, `file: place: reason`, with nothing changed: neither in the editor nor on the disk.
  */
 class FLevelFile

@@ -36,7 +36,8 @@ void FLevelWriter::FindReferences()
 
 bool FLevelWriter::WriteView(ordered_json& OutJson)
 {
-	const FEditorViewportClient* Client = FEditorViews::FindActiveClient();
+	const TArray<FEditorViewportClient*> Clients = FEditorViews::FindLevelClients();
+	const FEditorViewportClient* Client = Clients.Num() > 0 ? Clients[0] : nullptr;
 	const FPlace Place = FPlace() / "view";
 	return WriteLocation(Client ? Client->GetViewLocation() : FVector(), OutJson["location"], Place / "location") &&
 		WriteRotation(Client ? Client->GetViewRotation() : FRotator(), OutJson["rotation"], Place / "rotation");

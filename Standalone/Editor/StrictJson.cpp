@@ -181,6 +181,13 @@ namespace
 
 bool FStrictJson::Parse(std::string_view Text, json& OutValue, std::string& OutError)
 {
+	// The parser takes it for the end and leaves the rest unread.
+	const size_t Null = Text.find('\0');
+	if (Null != std::string_view::npos)
+	{
+		OutError = LineAndColumn(Text, Null + 1) + ": a null character";
+		return false;
+	}
 	FDocumentBuilder Builder(Text, OutValue, OutError);
 	return json::sax_parse(Text.begin(), Text.end(), &Builder);
 }

@@ -116,14 +116,14 @@ TEST_F(FLevelFileTest, LeavesTheSecondWorldAlone)
 	EXPECT_EQ(FTestEditor::GetActors(Second).Num(), 1);
 }
 
-TEST_F(FLevelFileTest, SetsTheViewOfTheActiveViewportOnly)
+TEST_F(FLevelFileTest, SetsTheViewsThatShowTheLevelOnly)
 {
 	FEditorViewportClient& Other = Editor.AddClient(Editor.GetWorld(1));
 	FTestEditor::Activate(Other);
 	EXPECT_EQ(Open(R"({"view":{"location":[7,8,9],"rotation":[1,2,3]}})"), "");
-	EXPECT_EQ(Other.GetViewLocation(), FVector(7.0f, 8.0f, 9.0f));
-	EXPECT_EQ(Other.GetViewRotation(), FRotator(1.0f, 2.0f, 3.0f));
-	EXPECT_EQ(Editor.Get().GetLevelClient().GetViewLocation(), FVector(1.0f, 2.5f, -3.0f));
+	EXPECT_EQ(Other.GetViewLocation(), FVector());
+	EXPECT_EQ(Editor.Get().GetLevelClient().GetViewLocation(), FVector(7.0f, 8.0f, 9.0f));
+	EXPECT_EQ(Editor.Get().GetLevelClient().GetViewRotation(), FRotator(1.0f, 2.0f, 3.0f));
 }
 
 TEST_F(FLevelFileTest, HasNothingToSaveAfterOpening)

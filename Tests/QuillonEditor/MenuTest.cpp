@@ -95,6 +95,7 @@ TEST_F(FPluginMenu, BringsTheWizardsOpenTabForward)
 TEST_F(FPluginMenu, FormatsTheVersionsIntoATranslatedPattern)
 {
 	FText Shown;
+	const FCoreDelegates::FOnModalMessageBox Former = FCoreDelegates::ModalErrorMessage;
 	FCoreDelegates::ModalErrorMessage = FCoreDelegates::FOnModalMessageBox::CreateLambda(
 		[&Shown](EAppMsgType::Type, const FText& Text, const FText&)
 		{
@@ -102,7 +103,7 @@ TEST_F(FPluginMenu, FormatsTheVersionsIntoATranslatedPattern)
 			return EAppReturnType::Ok;
 		});
 	Choose("Plugin Version");
-	FCoreDelegates::ModalErrorMessage.Unbind();
+	FCoreDelegates::ModalErrorMessage = Former;
 	ASSERT_NE(FTextFormatInspector::GetPattern(Shown), nullptr);
 	EXPECT_EQ(DescribeText(*FTextFormatInspector::GetPattern(Shown)),
 		"FQuillonEditorModule,PluginButtonDialogText,Plugin Version: {0} \nEngine Version: {1}");
@@ -180,6 +181,24 @@ TEST_F(FPluginMenu, ShowsTheVersionsOfTheDescriptorInABoxWithoutTitle)
 	Choose("Plugin Version");
 	EXPECT_EQ(Ask("outside")["messages"],
 		json::parse(R"([{"kind":"Ok","text":"Plugin Version: 1.0 \nEngine Version: 4.27.0","title":null}])"));
+}
+
+TEST(FPluginMenuOfAnotherDescriptor, ShowsTheVersionsThatStandThere)
+{
+	json Descriptor = json::parse(FTemporaryFolder::ReadFile(std::string(QUILLON_PROJECT_DIR) + "/ZAVQuillon.uplugin"));
+	Descriptor["VersionName"] = "2.5 beta";
+	Descriptor["EngineVersion"] = "4.27.2-Theirs";
+	const FTemporaryFolder Project;
+	Project.Write("ZAVQuillon.uplugin", Descriptor.dump());
+	FStandaloneEditorOptions Options;
+	Options.ProjectDir = Project.File("");
+	FDriverSession Session;
+	std::string Error;
+	ASSERT_TRUE(Session.Start(Options, Error)) << Error;
+	FDrivenEditor::Ask(Session, {{"do", "choose"}, {"button", "Corvane"}, {"entry", "Plugin Version"}});
+	EXPECT_EQ(FDrivenEditor::Ask(Session, {{"do", "outside"}})["messages"],
+		json::parse(
+			R"([{"kind":"Ok","text":"Plugin Version: 2.5 beta \nEngine Version: 4.27.2-Theirs","title":null}])"));
 }
 
 TEST(FPluginMenuWithoutDescriptor, ShowsTheVersionDialogWithNothingToSay)

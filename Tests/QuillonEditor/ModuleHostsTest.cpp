@@ -16,6 +16,7 @@
 #include "Styling/SlateStyleRegistry.h"
 #include "ToolMenus.h"
 #include "UObject/UObjectGlobals.h"
+#include "Widgets/Docking/SDockTab.h"
 #include "Widgets/SNullWidget.h"
 
 using nlohmann::json;
@@ -204,6 +205,28 @@ TEST_F(FModuleHosts, LoseTheMenusAfterTheCategoryAndBeforeTheCommands)
 	EXPECT_TRUE(Seen.bLooked);
 	EXPECT_FALSE(Seen.bCategory);
 	EXPECT_TRUE(Seen.HasAll());
+}
+
+TEST_F(FModuleHosts, LoseTheTabAfterTheCommandsAndBeforeTheStyle)
+{
+	FSeen Seen;
+	FGlobalTabmanager::Get()->UnregisterNomadTabSpawner("CineStreamWizard");
+	FGlobalTabmanager::Get()->RegisterNomadTabSpawner("CineStreamWizard",
+		FOnSpawnTab::CreateLambda([Watch = Seen.LookWhenReleased()](const FSpawnTabArgs&) { return SNew(SDockTab); }));
+	Module("unload");
+	EXPECT_TRUE(Seen.bLooked);
+	EXPECT_FALSE(Seen.bCommands);
+	EXPECT_EQ(Seen.MenuOwners, 0);
+	EXPECT_TRUE(Seen.bStyle);
+}
+
+TEST_F(FModuleHosts, GetCommandsThatWorkWhenOneModuleObjectIsStoppedAndStarted)
+{
+	IModuleInterface* const Object = FModuleManager::Get().GetModule("QuillonEditor");
+	Object->ShutdownModule();
+	Object->StartupModule();
+	Ask({{"do", "choose"}, {"button", "Corvane"}, {"entry", "Plugin Version"}});
+	EXPECT_EQ(Ask("outside")["messages"].size(), 1U);
 }
 
 TEST_F(FModuleHosts, WithoutPlacementModeStartIsFatal)

@@ -109,6 +109,15 @@ TEST_F(FSharedStyle, GoesWithMenusThatKeepTheCommandListOfTheirRegistration)
 	Module.ShutdownModule();
 }
 
+TEST_F(FSharedStyle, GoesBeforeTheCommandListOfTheModule)
+{
+	FQuillonEditorStyle::Shutdown();
+	FQuillonEditorModule Module;
+	Module.StartupModule();
+	Module.ShutdownModule();
+	EXPECT_TRUE((Module.*GetMember(FPluginCommands())).IsValid());
+}
+
 TEST_F(FSharedStyle, IsReportedAtShutDownWithTheExpressionAndTheFileAndReleasedAnyway)
 {
 	const TSharedPtr<FSlateStyleSet> Shared = *GetMember(FStyleInstance());

@@ -81,7 +81,9 @@ bool FDriverFront::Answer(const std::string& Line, int& OutStatus)
 	std::string Text;
 	if (!Worker.Ask(Line, Mark, Text))
 	{
-		OutStatus = Worker.Finish();
+		// A request without an answer is no success, however the worker ended.
+		const int Ended = Worker.Finish();
+		OutStatus = Ended != 0 ? Ended : BadInput;
 		return false;
 	}
 	if (Mark == FWorkerProcess::EMark::Restarts)

@@ -5,8 +5,10 @@
 #include "Driver/WorkerProcess.h"
 #include "StandardOutput.h"
 
+#include <sys/prctl.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <limits>
 
 #include "Driver/DriverSession.h"
@@ -14,6 +16,8 @@
 
 int FDriverWorker::Run()
 {
+	// A front that is killed takes the worker along, whatever that is busy with.
+	::prctl(PR_SET_PDEATHSIG, SIGKILL);
 	const FDescriptor Answers(FWorkerProcess::AnswersHandle);
 	// The front keeps the limit.
 	FLineReader Requests{FDescriptor(STDIN_FILENO), std::numeric_limits<size_t>::max()};

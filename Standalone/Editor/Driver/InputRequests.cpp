@@ -95,6 +95,19 @@ namespace
 		throw FRequestError("box " + std::to_string(Wanted) + ": the tab shows " + std::to_string(Count));
 	}
 
+	/** Whether any key of the text does something to a box. */
+	bool HasEffect(const FString& Text)
+	{
+		for (int32 Index = 0; Index < Text.Len(); ++Index)
+		{
+			if ((Text[Index] >= TEXT(' ') && Text[Index] != 0x7f) || Text[Index] == TEXT('\b'))
+			{
+				return true;
+			}
+		}
+		return false;
+	}
+
 	void Replace(const FString& Text, EEntry Entry)
 	{
 		FUserInput::Press(EKeys::A, FUserInput::WithControl());
@@ -104,8 +117,8 @@ namespace
 		}
 		else
 		{
-			// A backspace leaves nothing of what is selected.
-			FUserInput::Type(Text.IsEmpty() ? FString(TEXT("\b")) : Text);
+			// A backspace leaves nothing of what is selected, which no other control character takes away.
+			FUserInput::Type(HasEffect(Text) ? Text : FString(TEXT("\b")));
 		}
 	}
 

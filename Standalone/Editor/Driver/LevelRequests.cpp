@@ -7,36 +7,58 @@
 #include "Driver/DriverSession.h"
 #include "Editor.h"
 #include "EditorViews.h"
+#include "Engine/Level.h"
+#include "Engine/World.h"
 #include "LevelBuilder.h"
 #include "LevelEditorViewport.h"
 #include "LevelFile.h"
 
 namespace
 {
-	FAnswer OpenLevel(FDriverSession&, const FRequest& Request)
+	/** Its module may have been unloaded; without it nobody knows which assets a level has. */
+	void NeedAssetRegistry()
 	{
-		// Its module may have been unloaded, and the assets of a level are fatal without it.
 		if (!IAssetRegistry::Get())
 		{
-			throw FRequestError("levels can't be opened without the module \"AssetRegistry\"");
+			throw FRequestError("a level needs the module \"AssetRegistry\", which is not loaded");
 		}
+	}
+
+	/** The world beside the level's is empty at first, and again with each other level. */
+	void EmptySecondWorld(FDriverSession& Session)
+	{
+		UWorld* World = Session.GetEditor().GetWorld(1);
+		const TArray<AActor*> Actors = World->PersistentLevel->Actors;
+		for (AActor* Actor : Actors)
+		{
+			World->DestroyActor(Actor);
+		}
+	}
+
+	FAnswer OpenLevel(FDriverSession& Session, const FRequest& Request)
+	{
+		NeedAssetRegistry();
 		std::string Error;
 		if (!FLevelFile::Open(Request.GetUtf8("file"), Error))
 		{
 			throw FRequestError(Error);
 		}
+		EmptySecondWorld(Session);
 		return FAnswer();
 	}
 
-	FAnswer NewLevel(FDriverSession&, const FRequest&)
+	FAnswer NewLevel(FDriverSession& Session, const FRequest&)
 	{
+		NeedAssetRegistry();
 		FLevelPlan Empty;
 		FLevelBuilder::Replace(Empty);
+		EmptySecondWorld(Session);
 		return FAnswer();
 	}
 
 	FAnswer SaveLevel(FDriverSession&, const FRequest& Request)
 	{
+		NeedAssetRegistry();
 		std::string Error;
 		if (!FLevelFile::Save(Request.GetUtf8("file"), Error))
 		{

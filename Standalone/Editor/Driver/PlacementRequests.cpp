@@ -19,10 +19,10 @@ namespace
 		return Names;
 	}
 
-	FAnswer Describe(const FPlacementCategoryInfo& Category)
+	FAnswer Describe(const IPlacementModeModule& Panel, const FPlacementCategoryInfo& Category)
 	{
 		TArray<TSharedPtr<FPlaceableItem>> Items;
-		IPlacementModeModule::Get().GetItemsForCategory(Category.UniqueHandle, Items);
+		Panel.GetItemsForCategory(Category.UniqueHandle, Items);
 		FAnswer Answer;
 		Answer["handle"] = FEngineText::ForDisplay(Category.UniqueHandle);
 		FAnswerText::Add(Answer, "name", Category.DisplayName);
@@ -37,11 +37,16 @@ namespace
 	FAnswer RunPlacement(FDriverSession& /*Session*/, const FRequest& /*Request*/)
 	{
 		TArray<FPlacementCategoryInfo> Categories;
-		IPlacementModeModule::Get().GetSortedCategories(Categories);
+		// Looking must not load it.
+		const auto* Panel = FModuleManager::GetModulePtr<IPlacementModeModule>("PlacementMode");
+		if (Panel)
+		{
+			Panel->GetSortedCategories(Categories);
+		}
 		FAnswer Answer = FAnswer::array();
 		for (const FPlacementCategoryInfo& Category : Categories)
 		{
-			Answer.push_back(Describe(Category));
+			Answer.push_back(Describe(*Panel, Category));
 		}
 		return {{"categories", std::move(Answer)}};
 	}

@@ -10,6 +10,11 @@ using nlohmann::json;
 
 namespace
 {
+	/** More than any editor shows; making them takes longer and longer. */
+	constexpr size_t MaxClients = 64;
+	/** Beyond it a frame would no longer move the clock. */
+	constexpr double MaxSeconds = 1e9;
+
 	std::string CheckText(const json& Json)
 	{
 		FString Ignored;
@@ -51,7 +56,11 @@ namespace
 		{
 			return "a number is wanted";
 		}
-		return Json.get<double>() >= 0.0 ? "" : "the number is below 0";
+		if (Json.get<double>() < 0.0)
+		{
+			return "the number is below 0";
+		}
+		return Json.get<double>() <= MaxSeconds ? "" : "the number is above 1e9";
 	}
 
 	std::string CheckVector(const json& Json)
@@ -79,11 +88,11 @@ namespace
 
 	std::string CheckClients(const json& Json)
 	{
-		if (Json.is_array() && std::all_of(Json.begin(), Json.end(), IsClient))
+		if (!Json.is_array() || !std::all_of(Json.begin(), Json.end(), IsClient))
 		{
-			return "";
+			return "a list of {\"world\": 0 or 1} is wanted";
 		}
-		return "a list of {\"world\": 0 or 1} is wanted";
+		return Json.size() <= MaxClients ? "" : "there are more than 64 clients";
 	}
 }
 

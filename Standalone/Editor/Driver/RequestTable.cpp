@@ -44,10 +44,11 @@ namespace
 	std::vector<FRequestDefinition> MakeTable()
 	{
 		std::vector<FRequestDefinition> Table = {{"help", {}, ListRequests}};
-		for (const auto GetSubject : {FLevelRequests::GetAll, FActorRequests::GetAll, FTabRequests::GetAll,
-				 FWidgetRequests::GetAll, FInputRequests::GetAll, FMenuRequests::GetAll, FPlacementRequests::GetAll,
-				 FDetailsRequests::GetAll, FSenderRequests::GetAll, FNotificationRequests::GetAll,
-				 FOutsideRequests::GetAll, FRegisteredRequests::GetAll, FSessionRequests::GetAll})
+		for (const auto GetSubject :
+			{FLevelRequests::GetAll, FActorRequests::GetAll, FTabRequests::GetAll, FWidgetRequests::GetAll,
+				FInputRequests::GetAll, FWidgetRequests::GetGeometry, FMenuRequests::GetAll, FPlacementRequests::GetAll,
+				FDetailsRequests::GetAll, FSenderRequests::GetAll, FNotificationRequests::GetAll,
+				FOutsideRequests::GetAll, FRegisteredRequests::GetAll, FSessionRequests::GetAll})
 		{
 			const std::vector<FRequestDefinition> Subject = GetSubject();
 			Table.insert(Table.end(), Subject.begin(), Subject.end());

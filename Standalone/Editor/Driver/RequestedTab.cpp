@@ -23,7 +23,7 @@ TSharedRef<SDockTab> FRequestedTab::GetOpen(const FRequest& Request)
 	const TSharedPtr<SDockTab> Tab = FGlobalTabmanager::Get()->FindExistingLiveTab(FTabId(Id));
 	if (!Tab.IsValid())
 	{
-		throw FRequestError("the tab " + FErrorText::Quote(FEngineText::ForDisplay(Id)) + " is not open");
+		throw FRequestError("the tab " + FErrorText::Quote(Request.GetUtf8("tab")) + " is not open");
 	}
 	return Tab.ToSharedRef();
 }

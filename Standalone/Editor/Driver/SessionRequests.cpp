@@ -4,6 +4,7 @@
 #include "ErrorText.h"
 
 #include "Driver/DriverSession.h"
+#include "EditorAssets.h"
 #include "EngineText.h"
 #include "Modules/ModuleManager.h"
 #include "UObject/UObjectGlobals.h"
@@ -44,6 +45,11 @@ namespace
 		if (!FModuleManager::Get().IsModuleLoaded(*Module))
 		{
 			throw FRequestError(QuoteModule(Module) + " is not loaded");
+		}
+		// A registry that is loaded anew would not know what is in memory.
+		if (Module == TEXT("AssetRegistry") && FEditorAssets::GetAll().Num() > 0)
+		{
+			throw FRequestError(QuoteModule(Module) + " keeps the list of the level's assets: make a new level first");
 		}
 		FStandaloneEditor::CloseTabs();
 		FModuleManager::Get().UnloadModule(*Module);

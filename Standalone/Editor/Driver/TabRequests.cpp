@@ -37,7 +37,7 @@ namespace
 		const FName Id = FRequestedTab::GetId(Request);
 		if (!FGlobalTabmanager::Get()->TryInvokeTab(FTabId(Id)).IsValid())
 		{
-			throw FRequestError("nothing opens a tab " + FErrorText::Quote(FEngineText::ForDisplay(Id)));
+			throw FRequestError("nothing opens a tab " + FErrorText::Quote(Request.GetUtf8("tab")));
 		}
 		return FAnswer::object();
 	}

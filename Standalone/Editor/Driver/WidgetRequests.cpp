@@ -65,10 +65,13 @@ namespace
 
 std::vector<FRequestDefinition> FWidgetRequests::GetAll()
 {
-	const FParameter Tab = {"tab", EParameterType::Text, true};
-	return {{"widgets", {Tab}, &RunWidgets},
-		{"geometry",
-			{Tab, {"type", EParameterType::Text, false}, {"text", EParameterType::Text, false},
-				{"index", EParameterType::Index, false}},
-			&RunGeometry}};
+	return {{"widgets", {{"tab", EParameterType::Text, true}}, &RunWidgets}};
+}
+
+std::vector<FRequestDefinition> FWidgetRequests::GetGeometry()
+{
+	return {{"geometry",
+		{{"tab", EParameterType::Text, true}, {"type", EParameterType::Text, false},
+			{"text", EParameterType::Text, false}, {"index", EParameterType::Index, false}},
+		&RunGeometry}};
 }

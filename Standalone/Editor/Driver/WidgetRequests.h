@@ -7,4 +7,6 @@
 struct FWidgetRequests
 {
 	static std::vector<FRequestDefinition> GetAll();
+	/** Listed apart, behind the requests that type and click. */
+	static std::vector<FRequestDefinition> GetGeometry();
 };

@@ -75,6 +75,15 @@ TEST_F(FInputRequestsTest, TypeNoControlCharacterAndDeleteWithABackspace)
 	EXPECT_EQ(Enter("type", "a\tb\n\u007fc\bd"), "abd");
 }
 
+TEST_F(FInputRequestsTest, TypeNothingButControlCharactersToEmptyTheBox)
+{
+	for (const char* Text : {"\t", "\n", "\u0001\u007f"})
+	{
+		Enter("type", "abc");
+		EXPECT_EQ(Enter("type", Text), "") << Text;
+	}
+}
+
 TEST_F(FInputRequestsTest, PasteOverTheContentInOneChange)
 {
 	EXPECT_EQ(Enter("paste", "a😀\tb\nc"), "a😀\tbc");

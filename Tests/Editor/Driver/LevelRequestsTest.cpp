@@ -5,6 +5,7 @@
 
 #include "Editor.h"
 #include "EditorViewportClient.h"
+#include "GameFramework/Actor.h"
 
 using nlohmann::json;
 
@@ -74,14 +75,60 @@ TEST_F(FLevelRequestsTest, RefusesFilesThatAreNoLevel)
 	EXPECT_NE(GetRefusal({{"do", "open-level"}, {"file", ""}}), "");
 }
 
-TEST_F(FLevelRequestsTest, RefusesToOpenALevelWithoutTheAssetRegistry)
+TEST_F(FLevelRequestsTest, NeedsTheAssetRegistry)
 {
 	Ask({{"do", "module"}, {"name", "AssetRegistry"}, {"action", "unload"}});
 	const std::string Studio = std::string(QUILLON_SAMPLES_DIR) + "/studio.json";
-	EXPECT_EQ(GetRefusal({{"do", "open-level"}, {"file", Studio}}),
-		"levels can't be opened without the module \"AssetRegistry\"");
+	const std::string Reason = "a level needs the module \"AssetRegistry\", which is not loaded";
+	EXPECT_EQ(GetRefusal({{"do", "open-level"}, {"file", Studio}}), Reason);
+	EXPECT_EQ(GetRefusal({{"do", "new-level"}}), Reason);
+	EXPECT_EQ(GetRefusal({{"do", "save-level"}, {"file", Folder.File("level.json")}}), Reason);
 	Ask({{"do", "module"}, {"name", "AssetRegistry"}, {"action", "load"}});
 	Ask({{"do", "open-level"}, {"file", Studio}});
+}
+
+TEST_F(FLevelRequestsTest, EmptiesTheSecondWorldToo)
+{
+	for (const char* Do : {"new-level", "open-level"})
+	{
+		Session.GetEditor().GetWorld(1)->SpawnActor<AActor>();
+		ASSERT_NE(Ask({{"do", "level"}})["actors"].size(), 0U);
+		json Request = {{"do", Do}};
+		if (Request["do"] == "open-level")
+		{
+			Request["file"] = std::string(QUILLON_SAMPLES_DIR) + "/empty.json";
+		}
+		Ask(Request);
+		EXPECT_EQ(Ask({{"do", "level"}})["actors"].size(), 0U) << Do;
+	}
+}
+
+TEST_F(FLevelRequestsTest, SavesTheViewOfTheLevelWhicheverViewportIsActive)
+{
+	const std::string File = Folder.File("view.json");
+	const json Setups = {{{"clients", {{{"world", 1}}, {{"world", 0}}}}, {"active", 0}, {"client", 1}},
+		{{"clients", {{{"world", 0}}, {{"world", 1}}}}, {"active", 1}, {"client", 0}},
+		{{"clients", {{{"world", 0}}}}, {"active", nullptr}, {"client", 0}}};
+	for (const json& Setup : Setups)
+	{
+		Ask({{"do", "viewports"}, {"clients", Setup["clients"]}, {"active", Setup["active"]}});
+		Ask({{"do", "view"}, {"client", Setup["client"]}, {"location", {1, 2, 3}}, {"rotation", {4, 5, 6}}});
+		Ask({{"do", "save-level"}, {"file", File}});
+		Ask({{"do", "new-level"}});
+		const FEditorViewportClient& Client = GetClient(Setup["client"].get<int32>());
+		EXPECT_TRUE(Client.GetViewLocation() == FVector()) << Setup;
+		Ask({{"do", "open-level"}, {"file", File}});
+		EXPECT_TRUE(Client.GetViewLocation() == FVector(1.0f, 2.0f, 3.0f)) << Setup;
+		EXPECT_TRUE(Client.GetViewRotation() == FRotator(4.0f, 5.0f, 6.0f)) << Setup;
+	}
+}
+
+TEST_F(FLevelRequestsTest, OpensALevelWithoutMovingTheViewOnAnotherWorld)
+{
+	Ask({{"do", "viewports"}, {"clients", {{{"world", 0}}, {{"world", 1}}}}, {"active", 1}});
+	Ask({{"do", "view"}, {"client", 1}, {"location", {1, 2, 3}}, {"rotation", {0, 0, 0}}});
+	Ask({{"do", "new-level"}});
+	EXPECT_TRUE(GetClient(1).GetViewLocation() == FVector(1.0f, 2.0f, 3.0f));
 }
 
 TEST_F(FLevelRequestsTest, RefusesFilesThatCannotBeWritten)

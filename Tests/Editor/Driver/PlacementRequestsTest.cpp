@@ -81,3 +81,10 @@ TEST_F(FPluginPlacementRequestsTest, ListThePluginsActors)
 	EXPECT_EQ(Found["items"], (FAnswer{"ZAVCineCamCapture", "ZAVSpoutSenderManager", "ZAVSpoutReceiverManager"}));
 	EXPECT_EQ(Found["shown"].size(), 3U);
 }
+
+TEST_F(FPluginPlacementRequestsTest, ListNothingOfAPanelThatIsNotLoadedAndDoNotLoadIt)
+{
+	Ask({{"do", "module"}, {"name", "PlacementMode"}, {"action", "unload"}});
+	EXPECT_EQ(Ask({{"do", "placement"}})["categories"], FAnswer::array());
+	EXPECT_FALSE(FModuleManager::Get().IsModuleLoaded("PlacementMode"));
+}

@@ -5,6 +5,9 @@
 
 #include <set>
 
+#include "Engine/World.h"
+#include "UObject/WeakObjectPtrTemplates.h"
+
 using nlohmann::json;
 
 class FRequestTableTest : public FEditorStateFixture
@@ -33,6 +36,7 @@ TEST_F(FRequestTableTest, RefusesNullCharacters)
 {
 	GetLineRefusal(std::string("{\"do\":\"help\0\"}", 14));
 	GetLineRefusal(std::string("\0{\"do\":\"help\"}", 14));
+	EXPECT_EQ(GetLineRefusal(std::string("{\"do\":\"collect\"}\0x", 18)), "line 1, column 17: a null character");
 	EXPECT_EQ(GetLineRefusal("{\"do\":\"open-level\",\"file\":\"a\\u0000b\"}", "open-level"),
 		"parameter \"file\": the text holds a null character");
 }
@@ -135,8 +139,12 @@ TEST_F(FRequestTableTest, AnswersInOneLineWithDoAndOkFirst)
 
 TEST_F(FRequestTableTest, TicksOnceAfterEachRequest)
 {
-	const double Before = Session.GetTime();
-	Ask({{"do", "collect"}});
-	EXPECT_DOUBLE_EQ(Session.GetTime() - Before, 1.0 / 60.0);
-	GetLineRefusal("{\"do\":\"no\"}", "no");
+	for (const char* Line : {"{\"do\":\"help\"}", "{\"do\":\"no\"}", "garbage"})
+	{
+		const double Before = Session.GetTime();
+		const TWeakObjectPtr<UObject> Garbage = NewObject<UWorld>();
+		FRequestTable::Answer(Session, Line);
+		EXPECT_DOUBLE_EQ(Session.GetTime() - Before, 1.0 / 60.0) << Line;
+		EXPECT_FALSE(Garbage.IsValid()) << "the editor collects garbage as it ticks: " << Line;
+	}
 }

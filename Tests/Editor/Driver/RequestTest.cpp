@@ -49,8 +49,8 @@ TEST(FParameter, TakesWholeNumbersAsIndex)
 
 TEST(FParameter, TakesSeconds)
 {
-	ExpectTaken(EParameterType::Seconds, {"0", "0.5", "1e300"});
-	ExpectRefused(EParameterType::Seconds, {"-1e-9", "-1", "\"1\"", "null", "[1]"});
+	ExpectTaken(EParameterType::Seconds, {"0", "0.5", "1e9"});
+	ExpectRefused(EParameterType::Seconds, {"-1e-9", "-1", "1.1e9", "\"1\"", "null", "[1]"});
 }
 
 TEST(FParameter, TakesVectorsThatFitFloats)
@@ -68,6 +68,11 @@ TEST(FParameter, TakesValues)
 TEST(FParameter, TakesClients)
 {
 	ExpectTaken(EParameterType::Clients, {"[]", "[{\"world\":0},{\"world\":1}]"});
+	const json Many(64, {{"world", 0}});
+	ExpectTaken(EParameterType::Clients, {Many.dump().c_str()});
+	json TooMany = Many;
+	TooMany.push_back({{"world", 0}});
+	ExpectRefused(EParameterType::Clients, {TooMany.dump().c_str()});
 	ExpectRefused(EParameterType::Clients,
 		{"{}", "[0]", "[{}]", "[{\"world\":2}]", "[{\"world\":-1}]", "[{\"world\":0.0}]", "[{\"world\":0,\"a\":0}]",
 			"[{\"World\":0}]", "null"});

@@ -52,6 +52,7 @@ TEST_F(FTabRequestsTest, CloseATab)
 TEST_F(FTabRequestsTest, RefuseToOpenWhatNothingSpawns)
 {
 	EXPECT_EQ(GetRefusal({{"do", "invoke-tab"}, {"tab", "Nowhere"}}), "nothing opens a tab \"Nowhere\"");
+	EXPECT_EQ(GetRefusal({{"do", "invoke-tab"}, {"tab", ""}}), "nothing opens a tab \"\"");
 	bCanSpawn = false;
 	EXPECT_EQ(GetRefusal({{"do", "invoke-tab"}, {"tab", "TestPage"}}), "nothing opens a tab \"TestPage\"");
 }
