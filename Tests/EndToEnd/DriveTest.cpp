@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <csignal>
+#include <filesystem>
 
 namespace
 {
@@ -222,4 +223,26 @@ TEST(Drive, TakesTheNullViewAndAFolderForWhatIsSaved)
 		FChildProcess::Run({"drive", Recording, "--view", "null", "--saved", Folder.File("saved")});
 	EXPECT_EQ(Run.Status, 0) << Run.Errors;
 	EXPECT_EQ(Run.Output, Collected + "\n{\"do\":\"restart\",\"ok\":true}\n");
+}
+
+TEST(Drive, HandsTheSavedFolderToEachWorker)
+{
+	const FTemporaryFolder Folder;
+	FDriveProcess Drive({"--saved", Folder.File("")});
+	for (const char* Line :
+		{"{\"do\":\"collect\"}", "{\"do\":\"restart\",\"what\":\"editor\"}", "{\"do\":\"collect\"}"})
+	{
+		EXPECT_NE(Drive.Ask(Line).find("\"ok\":true"), std::string::npos) << Line;
+		const std::string Arguments =
+			FTemporaryFolder::ReadFile("/proc/" + std::to_string(Drive.GetWorker()) + "/cmdline");
+		EXPECT_NE(Arguments.find(Folder.File("")), std::string::npos) << Line;
+	}
+}
+
+TEST(Drive, LetsNothingThatTheWorkerPrintsIntoTheAnswers)
+{
+	FDriveProcess Drive;
+	EXPECT_EQ(Drive.Ask(Collect), Collected);
+	const std::string Handles = "/proc/" + std::to_string(Drive.GetWorker()) + "/fd/";
+	EXPECT_EQ(std::filesystem::read_symlink(Handles + "1"), std::filesystem::read_symlink(Handles + "2"));
 }
