@@ -102,6 +102,16 @@ TEST_F(FPlatformProcessTest, NeverTriesToPassOnWhatIsNoPageOfTheWeb)
 	}
 }
 
+TEST_F(FPlatformProcessTest, SaysOnStandardErrorWhatItRefusedIfNobodyAsks)
+{
+	::testing::internal::CaptureStderr();
+	FPlatformProcess::LaunchURL(TEXT("file:///etc/passwd"), nullptr, nullptr);
+	EXPECT_EQ(::testing::internal::GetCapturedStderr().find("'file:///etc/passwd' is not opened: "), 0U);
+	::testing::internal::CaptureStderr();
+	FPlatformProcess::LaunchURL(TEXT("a\x1b[2J\n\x9b b"), nullptr, nullptr);
+	EXPECT_EQ(::testing::internal::GetCapturedStderr().find("'a?[2J?? b' is not opened: "), 0U);
+}
+
 TEST_F(FPlatformProcessTest, OpensNothingThatTheDelegateHoldsBack)
 {
 	InstallOpener();

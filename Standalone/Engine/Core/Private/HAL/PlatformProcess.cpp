@@ -1,5 +1,6 @@
 // Copyright Corvane. MIT License.
 #include <cerrno>
+#include <cstdio>
 #include <cstring>
 #include <fcntl.h>
 #include <spawn.h>
@@ -13,6 +14,17 @@
 
 namespace
 {
+	/** One line on standard error. An address may hold anything, also what a terminal takes for a command. */
+	void PrintToTerminal(FString Line)
+	{
+		for (int32 Index = 0; Index < Line.Len(); ++Index)
+		{
+			const bool bControl = Line[Index] < TEXT(' ') || (Line[Index] >= 0x7f && Line[Index] < 0xa0);
+			Line[Index] = bControl ? TEXT('?') : Line[Index];
+		}
+		std::fprintf(stderr, "%s\n", TCHAR_TO_UTF8(Line));
+	}
+
 	/** In the middle process: starts the opener, cut off from this program's streams and session. @return errno. */
 	int SpawnOpener(const ANSICHAR* Address)
 	{
@@ -54,7 +66,8 @@ namespace
 void FPlatformProcess::LaunchURL(const TCHAR* URL, const TCHAR* /*Parms*/, FString* Error)
 {
 	FString Reason;
-	if (FCoreDelegates::ShouldLaunchUrl.IsBound() && !FCoreDelegates::ShouldLaunchUrl.Execute(URL))
+	const bool bHeldBack = FCoreDelegates::ShouldLaunchUrl.IsBound() && !FCoreDelegates::ShouldLaunchUrl.Execute(URL);
+	if (bHeldBack)
 	{
 		Reason = TEXT("held back by the program");
 	}
@@ -65,8 +78,18 @@ void FPlatformProcess::LaunchURL(const TCHAR* URL, const TCHAR* /*Parms*/, FStri
 			Reason = FString("xdg-open can't be started: ") + std::strerror(Number);
 		}
 	}
-	if (Error && !Reason.IsEmpty())
+	if (Reason.IsEmpty())
 	{
-		*Error = FString::Printf(TEXT("'%s' is not opened: %s"), URL, *Reason);
+		return;
+	}
+	const FString Line = FString::Printf(TEXT("'%s' is not opened: %s"), URL, *Reason);
+	if (Error)
+	{
+		*Error = Line;
+	}
+	else if (!bHeldBack)
+	{
+		// The caller does not ask, but a user who clicked in vain does.
+		PrintToTerminal(Line);
 	}
 }
