@@ -11,7 +11,12 @@
 
 namespace
 {
-	/** Everything but the answer. @return false with a line on failure that is not the job's own. */
+	bool PrintReport(const FCreateOptions& Options, const FCreateReport& Report)
+	{
+		return FStandardOutput::Write(Options.bJson ? Report.ToJson() : Report.ToText());
+	}
+
+	/** @return false on failure that is not the job's own, with a line unless it was printed already. */
 	bool RunInEditor(
 		FStandaloneEditor& Editor, const FCreateOptions& Options, FCreateReport& OutReport, std::string& OutError)
 	{
@@ -25,10 +30,11 @@ namespace
 		}
 		if (!OutReport.Setup || !Options.SaveFile)
 		{
-			return true;
+			return PrintReport(Options, OutReport);
 		}
 		OutReport.SavedTo = Options.SaveFile;
-		return FLevelFile::Save(*Options.SaveFile, OutError);
+		// Nobody shall find a saved level whose making was reported as failed.
+		return FLevelFile::Save(*Options.SaveFile, OutError, [&]() { return PrintReport(Options, OutReport); });
 	}
 }
 
@@ -39,11 +45,10 @@ EExitStatus FCreateCommand::Run(const FCreateOptions& Options)
 	FStandaloneEditor Editor;
 	if (!RunInEditor(Editor, Options, Report, Error))
 	{
-		FStandardOutput::WriteError(Error);
-		return EExitStatus::BadInput;
-	}
-	if (!FStandardOutput::Write(Options.bJson ? Report.ToJson() : Report.ToText()))
-	{
+		if (!Error.empty())
+		{
+			FStandardOutput::WriteError(Error);
+		}
 		return EExitStatus::BadInput;
 	}
 	return Report.Setup ? EExitStatus::Done : EExitStatus::JobFailed;

@@ -124,7 +124,8 @@ bool FFileAccess::Read(const std::string& Path, size_t MaxSize, std::string& Out
 	return ReadAll(File, MaxSize, OutBytes) || FailWithErrno(Path, OutError);
 }
 
-bool FFileAccess::Replace(const std::string& Path, const std::string& Bytes, std::string& OutError)
+bool FFileAccess::Replace(
+	const std::string& Path, const std::string& Bytes, std::string& OutError, const std::function<bool()>& BeforeRename)
 {
 	if (!MayReplace(Path, OutError))
 	{
@@ -138,7 +139,13 @@ bool FFileAccess::Replace(const std::string& Path, const std::string& Bytes, std
 	{
 		return FailWithErrno(Path, OutError);
 	}
-	if (!FillTemporary(File, Target.string(), Bytes) || std::rename(Temporary.c_str(), Target.c_str()) != 0)
+	const bool bFilled = FillTemporary(File, Target.string(), Bytes);
+	if (bFilled && BeforeRename && !BeforeRename())
+	{
+		::unlink(Temporary.c_str());
+		return false;
+	}
+	if (!bFilled || std::rename(Temporary.c_str(), Target.c_str()) != 0)
 	{
 		FailWithErrno(Path, OutError);
 		::unlink(Temporary.c_str());

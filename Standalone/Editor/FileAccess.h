@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <string>
 
 /**
@@ -18,6 +19,8 @@ public:
 	 * Writes Bytes to a temporary file beside Path, flushes it to the disk and renames it to Path.
 	 * On failure the old file is intact, the temporary one is gone, and OutError is one line, `file: reason`.
 	 * A symbolic link is followed. Exceeding the process's file size limit is an error only while SIGXFSZ is ignored.
+	 * @param BeforeRename asked once all bytes are on the disk. If it says no, that is a failure without an error line.
 	 */
-	static bool Replace(const std::string& Path, const std::string& Bytes, std::string& OutError);
+	static bool Replace(const std::string& Path, const std::string& Bytes, std::string& OutError,
+		const std::function<bool()>& BeforeRename = nullptr);
 };

@@ -28,7 +28,7 @@ bool FLevelFile::Open(const std::string& Path, std::string& OutError)
 	return true;
 }
 
-bool FLevelFile::Save(const std::string& Path, std::string& OutError)
+bool FLevelFile::Save(const std::string& Path, std::string& OutError, const std::function<bool()>& BeforeRename)
 {
 	std::string Text;
 	std::string Reason;
@@ -37,7 +37,7 @@ bool FLevelFile::Save(const std::string& Path, std::string& OutError)
 		OutError = FErrorText::ForFile(Path, Reason);
 		return false;
 	}
-	if (!FFileAccess::Replace(Path, Text, OutError))
+	if (!FFileAccess::Replace(Path, Text, OutError, BeforeRename))
 	{
 		return false;
 	}

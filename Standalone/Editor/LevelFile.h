@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <string>
 
 /**
@@ -18,8 +19,12 @@ public:
 	/** Replaces level, assets, selection and view by what stands in the file. */
 	static bool Open(const std::string& Path, std::string& OutError);
 
-	/** Writes the file in one piece and clears every dirty flag. */
-	static bool Save(const std::string& Path, std::string& OutError);
+	/**
+	 * Writes the file in one piece and clears every dirty flag.
+	 * @param BeforeRename as for FFileAccess::Replace: a no leaves all as it was, and OutError empty.
+	 */
+	static bool Save(
+		const std::string& Path, std::string& OutError, const std::function<bool()>& BeforeRename = nullptr);
 
 	/** What Save would write; OutError is only `place: reason`. Saving what was opened gives this text again. */
 	static bool ToText(std::string& OutText, std::string& OutError);

@@ -177,6 +177,16 @@ TEST(FCreate, ReportsAnAnswerThatCannotBeWritten)
 	EXPECT_EQ(ExpectBadInput(Process), "standard output: No space left on device");
 }
 
+TEST(FCreate, SavesNothingWhenTheAnswerCannotBeWritten)
+{
+	const FTemporaryFolder Folder;
+	FChildProcess::FOptions Options;
+	Options.OutputFile = "/dev/full";
+	const FChildProcess Process = FChildProcess::Run({"create", "Main", "--save", Folder.File("level.json")}, Options);
+	EXPECT_EQ(ExpectBadInput(Process), "standard output: No space left on device");
+	EXPECT_EQ(Folder.List(), std::vector<std::string>());
+}
+
 TEST(FCreate, RefusesAProjectWithoutThePlugin)
 {
 	const FTemporaryFolder Folder;

@@ -229,13 +229,14 @@ TEST(Drive, HandsTheSavedFolderToEachWorker)
 {
 	const FTemporaryFolder Folder;
 	FDriveProcess Drive({"--saved", Folder.File("")});
-	for (const char* Line :
-		{"{\"do\":\"collect\"}", "{\"do\":\"restart\",\"what\":\"editor\"}", "{\"do\":\"collect\"}"})
+	for (int Round = 0; Round < 2; ++Round)
 	{
-		EXPECT_NE(Drive.Ask(Line).find("\"ok\":true"), std::string::npos) << Line;
+		// One that has answered: a process that has only just begun may have no arguments to read yet.
+		EXPECT_EQ(Drive.Ask(Collect), Collected);
 		const std::string Arguments =
 			FTemporaryFolder::ReadFile("/proc/" + std::to_string(Drive.GetWorker()) + "/cmdline");
-		EXPECT_NE(Arguments.find(Folder.File("")), std::string::npos) << Line;
+		EXPECT_NE(Arguments.find(Folder.File("")), std::string::npos) << "round " << Round;
+		EXPECT_EQ(Drive.Ask("{\"do\":\"restart\",\"what\":\"editor\"}"), "{\"do\":\"restart\",\"ok\":true}");
 	}
 }
 
