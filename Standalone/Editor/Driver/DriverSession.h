@@ -36,7 +36,7 @@ public:
 	/** The clock: seconds since the session was made. */
 	double GetTime() const { return Time; }
 
-	/** The process that runs this session shall end and another one take its place. */
+	/** The worker process shall end, and another one take its place with a fresh editor. */
 	void RequestRestart() { bRestart = true; }
 	bool IsRestartRequested() const { return bRestart; }
 

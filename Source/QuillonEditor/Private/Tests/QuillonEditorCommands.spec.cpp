@@ -16,6 +16,8 @@
 BEGIN_DEFINE_SPEC(FQuillonEditorCommandsSpec, "Quillon.Commands",
 	EAutomationTestFlags::EditorContext | EAutomationTestFlags::ProductFilter)
 	void TestCommand(const TCHAR* Name, const TCHAR* Label, const TCHAR* ToolTip, EUserInterfaceActionType Type);
+	/** Chooses a toggle twice; tests that its own switch flips and comes back, and that the other one stays. */
+	void TestFlip(const TCHAR* Label, bool (*IsOn)(), bool (*IsOtherOn)());
 	TSharedPtr<FBindingContext> FindContext() const;
 	TUniquePtr<FMenuUser> User;
 END_DEFINE_SPEC(FQuillonEditorCommandsSpec)
@@ -36,6 +38,17 @@ void FQuillonEditorCommandsSpec::TestCommand(
 	TestFalse("icon", Command->GetIcon().IsSet());
 	TestFalse("chord", Command->GetDefaultChord(EMultipleKeyBindingIndex::Primary).IsValidChord());
 	TestFalse("alternate chord", Command->GetDefaultChord(EMultipleKeyBindingIndex::Secondary).IsValidChord());
+}
+
+void FQuillonEditorCommandsSpec::TestFlip(const TCHAR* Label, bool (*IsOn)(), bool (*IsOtherOn)())
+{
+	const bool bBefore = IsOn();
+	const bool bOther = IsOtherOn();
+	User->Choose(Label);
+	TestEqual("flipped", IsOn(), !bBefore);
+	TestEqual("other", IsOtherOn(), bOther);
+	User->Choose(Label);
+	TestEqual("back", IsOn(), bBefore);
 }
 
 TSharedPtr<FBindingContext> FQuillonEditorCommandsSpec::FindContext() const
@@ -174,25 +187,17 @@ void FQuillonEditorCommandsSpec::Define()
 			It("should flip the editor viewports' rendering, and back",
 				[this]()
 				{
-					const bool bBefore = UZAVPROBlueprintFunctionLibrary::GetIsEditorViewportRendering();
-					const bool bOther = UZAVPROBlueprintFunctionLibrary::GetIsRuntimeViewportRendering();
-					User->Choose(TEXT("Editor Viewport Rendering"));
-					TestEqual("flipped", UZAVPROBlueprintFunctionLibrary::GetIsEditorViewportRendering(), !bBefore);
-					TestEqual("other", UZAVPROBlueprintFunctionLibrary::GetIsRuntimeViewportRendering(), bOther);
-					User->Choose(TEXT("Editor Viewport Rendering"));
-					TestEqual("back", UZAVPROBlueprintFunctionLibrary::GetIsEditorViewportRendering(), bBefore);
+					TestFlip(TEXT("Editor Viewport Rendering"),
+						&UZAVPROBlueprintFunctionLibrary::GetIsEditorViewportRendering,
+						&UZAVPROBlueprintFunctionLibrary::GetIsRuntimeViewportRendering);
 				});
 
 			It("should flip the game viewport's rendering, and back",
 				[this]()
 				{
-					const bool bBefore = UZAVPROBlueprintFunctionLibrary::GetIsRuntimeViewportRendering();
-					const bool bOther = UZAVPROBlueprintFunctionLibrary::GetIsEditorViewportRendering();
-					User->Choose(TEXT("Runtime Viewport Rendering"));
-					TestEqual("flipped", UZAVPROBlueprintFunctionLibrary::GetIsRuntimeViewportRendering(), !bBefore);
-					TestEqual("other", UZAVPROBlueprintFunctionLibrary::GetIsEditorViewportRendering(), bOther);
-					User->Choose(TEXT("Runtime Viewport Rendering"));
-					TestEqual("back", UZAVPROBlueprintFunctionLibrary::GetIsRuntimeViewportRendering(), bBefore);
+					TestFlip(TEXT("Runtime Viewport Rendering"),
+						&UZAVPROBlueprintFunctionLibrary::GetIsRuntimeViewportRendering,
+						&UZAVPROBlueprintFunctionLibrary::GetIsEditorViewportRendering);
 				});
 		});
 }
