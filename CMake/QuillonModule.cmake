@@ -105,7 +105,7 @@ function(quillon_specs NAME)
 	target_compile_options(${NAME}SpecObjects PRIVATE ${QUILLON_WARNINGS} -fno-rtti -fno-exceptions)
 	target_compile_definitions(${NAME}SpecObjects PRIVATE WITH_DEV_AUTOMATION_TESTS=1)
 	target_include_directories(${NAME}SpecObjects PRIVATE ${ARG_FOLDER}/Private ${ARG_FOLDER}/Private/Tests)
-	target_link_libraries(${NAME}SpecObjects PUBLIC ${NAME})
+	target_link_libraries(${NAME}SpecObjects PUBLIC ${NAME} Automation)
 	add_library(${NAME}WithSpecs SHARED)
 	target_link_libraries(${NAME}WithSpecs PRIVATE ${NAME}Objects ${NAME}SpecObjects)
 	set_target_properties(${NAME}WithSpecs PROPERTIES OUTPUT_NAME ${NAME} LINKER_LANGUAGE CXX

@@ -28,7 +28,7 @@ class Commands:
         """Of a file that is compiled, or of the module (the folder that holds Public and Private) in which it lies."""
         if name in self._by_file:
             return self._search_flags(self._by_file[name])
-        module = re.match(r"(?:Source|Standalone/Engine)/[^/]+", name).group()
+        module = re.match(r"(?:Source|Standalone/Engine|Standalone/Testing(?=/Automation/))/[^/]+", name).group()
         for other, command in self._by_file.items():
             if other.startswith(f"{module}/Private/") and "/Tests/" not in other:
                 return self._search_flags(command)

@@ -119,7 +119,7 @@ TEST(FAutomationSpec, KnowsWhereItsCasesStand)
 {
 	const TArray<FAutomationTestInfo> Cases = CasesOf("Core.Order");
 	ASSERT_EQ(Cases.Num(), 3);
-	EXPECT_EQ(Utf8(Cases[0].SourceFile), "Tests/Core/AutomationTestTest.cpp");
+	EXPECT_EQ(Utf8(Cases[0].SourceFile), "Tests/Automation/AutomationTestTest.cpp");
 	EXPECT_GT(Cases[0].SourceLine, 20);
 	EXPECT_GT(Cases[1].SourceLine, Cases[0].SourceLine);
 }

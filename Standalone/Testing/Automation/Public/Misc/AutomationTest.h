@@ -51,7 +51,7 @@ struct FAutomationTestInfo
  * A test and its assertions. What names the value in the error that a failed assertion adds; the case goes on after it.
  * All assertions return whether they held.
  */
-class CORE_API FAutomationTestBase
+class AUTOMATION_API FAutomationTestBase
 {
 public:
 	/** Registers the test with the framework. */
@@ -105,7 +105,7 @@ private:
 };
 
 /** A test that is written as sentences: Describe("Creation", …) with It("should fail without a name", …) within. */
-class CORE_API FAutomationSpecBase : public FAutomationTestBase
+class AUTOMATION_API FAutomationSpecBase : public FAutomationTestBase
 {
 public:
 	FAutomationSpecBase(const FString& InName, const bool bInComplexTask);
@@ -145,7 +145,7 @@ private:
 };
 
 /** Knows all tests of the process. */
-class CORE_API FAutomationTestFramework
+class AUTOMATION_API FAutomationTestFramework
 {
 public:
 	static FAutomationTestFramework& Get();
