@@ -1,6 +1,9 @@
 // Copyright Corvane. MIT License.
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <limits>
+
 #include "TestTypes.h"
 #include "UObject/UObjectHash.h"
 #include "UObject/UnrealType.h"
@@ -122,6 +125,66 @@ TEST(AllClasses, HaveADefaultObjectAndPropertiesThatCanBeWrittenAndRead)
 		}
 	}
 	EXPECT_GT(NumProperties, 40);
+}
+
+TEST(FProperty, HoldsAValueOutsideOfAnObject)
+{
+	UTestEverything* const Object = NewObject<UTestEverything>();
+	Object->Text = TEXT("a text that is too long to stand in the string itself");
+	Object->Shown = FText::FromString(Object->Text);
+	Object->Node = NewObject<UTestNode>();
+	Object->Point.Label = Object->Text;
+	Object->Point.Hidden = 5;
+	Object->Strings = {Object->Text};
+	Object->Points = {Object->Point};
+	Object->Nodes = {Object->Node};
+	for (TFieldIterator<FProperty> It(Object->GetClass()); It; ++It)
+	{
+		SCOPED_TRACE(TCHAR_TO_UTF8(*It->GetName()));
+		std::vector<uint8> Memory(static_cast<size_t>(It->ElementSize), 0xCD);
+		void* const Value = Memory.data();
+		It->InitializeValue(Value);
+		It->CopyCompleteValue(Value, It->ContainerPtrToValuePtr<void>(static_cast<void*>(Object)));
+		EXPECT_TRUE(It->Identical(Value, It->ContainerPtrToValuePtr<void>(static_cast<void*>(Object))));
+		It->DestroyValue(Value);
+	}
+}
+
+TEST(FProperty, BeginsAValueWithItsDefault)
+{
+	const auto Begin = [](const TCHAR* Name, const std::function<void(const void*)>& Look)
+	{
+		const FProperty* const Property = UTestEverything::StaticClass()->FindPropertyByName(Name);
+		std::vector<uint8> Memory(static_cast<size_t>(Property->ElementSize), 0xCD);
+		Property->InitializeValue(Memory.data());
+		Look(Memory.data());
+		Property->DestroyValue(Memory.data());
+	};
+	Begin(TEXT("bSwitch"), [](const void* Value) { EXPECT_FALSE(*static_cast<const bool*>(Value)); });
+	Begin(TEXT("Count"), [](const void* Value) { EXPECT_EQ(*static_cast<const int32*>(Value), 0); });
+	Begin(TEXT("Ratio"), [](const void* Value) { EXPECT_EQ(*static_cast<const float*>(Value), 0.0f); });
+	Begin(TEXT("Node"), [](const void* Value) { EXPECT_EQ(*static_cast<UTestNode* const*>(Value), nullptr); });
+	Begin(
+		TEXT("Points"), [](const void* Value) { EXPECT_EQ(static_cast<const TArray<FTestPoint>*>(Value)->Num(), 0); });
+	Begin(TEXT("Point"),
+		[](const void* Value)
+		{
+			const FTestPoint& Point = *static_cast<const FTestPoint*>(Value);
+			EXPECT_EQ(Point.X, 7);
+			EXPECT_TRUE(Point.Label.Equals(TEXT("origin")));
+			EXPECT_EQ(Point.Hidden, 0);
+		});
+}
+
+TEST(FProperty, ComparesNumbersByTheirBits)
+{
+	const FFloatProperty* const Ratio = Find<FFloatProperty>(TEXT("Ratio"));
+	const float Zeros[] = {0.0f, -0.0f};
+	const float NoNumber = std::numeric_limits<float>::quiet_NaN();
+	EXPECT_FALSE(Ratio->Identical(&Zeros[0], &Zeros[1]));
+	EXPECT_TRUE(Ratio->Identical(&Zeros[1], &Zeros[1]));
+	EXPECT_TRUE(Ratio->Identical(&NoNumber, &NoNumber));
+	EXPECT_FALSE(Ratio->Identical(&NoNumber, &Zeros[0]));
 }
 
 TEST(FProperty, ReadsAndWritesTheMember)

@@ -1,10 +1,11 @@
 // Copyright Corvane. MIT License.
 #include "UObject/Object.h"
 
+#include "Misc/ITransaction.h"
 #include "ObjectConstruction.h"
 #include "ObjectTable.h"
-#include "UObject/Class.h"
 #include "UObject/Package.h"
+#include "UObject/UnrealType.h"
 
 UObject::UObject()
 {
@@ -116,6 +117,37 @@ bool UObject::MarkPackageDirty() const
 	}
 	Package->SetDirtyFlag(true);
 	return true;
+}
+
+bool UObject::Modify(bool bAlwaysMarkDirty)
+{
+	const bool bSaved = GUndo && HasAnyFlags(RF_Transactional);
+	if (bSaved)
+	{
+		GUndo->SaveObject(this);
+	}
+	else if (bAlwaysMarkDirty)
+	{
+		MarkPackageDirty();
+	}
+	FCoreUObjectDelegates::OnObjectModified.Broadcast(this);
+	return bSaved;
+}
+
+void UObject::PreEditChange(FProperty* /*PropertyAboutToChange*/)
+{
+	Modify();
+}
+
+void UObject::PostEditChangeProperty(FPropertyChangedEvent& PropertyChangedEvent)
+{
+	FCoreUObjectDelegates::OnObjectPropertyChanged.Broadcast(this, PropertyChangedEvent);
+}
+
+void UObject::PostEditUndo()
+{
+	FPropertyChangedEvent AnyProperty(nullptr);
+	PostEditChangeProperty(AnyProperty);
 }
 
 UWorld* UObject::GetWorld() const

@@ -8,6 +8,10 @@
 #include "UObject/Package.h"
 #include "UObject/UObjectHash.h"
 
+ITransaction* GUndo = nullptr;
+FCoreUObjectDelegates::FOnObjectModified FCoreUObjectDelegates::OnObjectModified;
+FCoreUObjectDelegates::FOnObjectPropertyChanged FCoreUObjectDelegates::OnObjectPropertyChanged;
+
 UObject* StaticConstructObject_Internal(const FStaticConstructObjectParameters& Params)
 {
 	check(Params.Class != nullptr);

@@ -3,6 +3,12 @@
 
 #include <cstring>
 
+bool IsIdenticalPropertyValue(const float& A, const float& B)
+{
+	// A zero has a sign, and what is no number is at least itself.
+	return std::memcmp(&A, &B, sizeof(A)) == 0;
+}
+
 bool IsIdenticalPropertyValue(const FString& A, const FString& B)
 {
 	return A.Equals(B, ESearchCase::CaseSensitive);

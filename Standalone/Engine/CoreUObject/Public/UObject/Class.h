@@ -92,6 +92,8 @@ public:
 	struct ICppStructOps
 	{
 		virtual ~ICppStructOps() = default;
+		virtual void Construct(void* Dest) const = 0;
+		virtual void Destruct(void* Dest) const = 0;
 		virtual void Copy(void* Dest, const void* Src) const = 0;
 	};
 
@@ -100,6 +102,8 @@ public:
 	/** Whether all reflected members are identical. */
 	bool CompareScriptStruct(const void* A, const void* B, uint32 PortFlags) const;
 
+	/** What constructs, destroys and copies values of the structure. */
+	const ICppStructOps* GetCppStructOps() const { return CppStructOps.Get(); }
 	void SetCppStructOps(TUniquePtr<ICppStructOps> InOps) { CppStructOps = MoveTemp(InOps); }
 
 private:

@@ -5,6 +5,7 @@
 #include "UObject/UnrealType.h"
 
 #include <initializer_list>
+#include <new>
 
 /** @file What the sources that HeaderTool writes are made of. Nothing else includes it. */
 
@@ -70,6 +71,8 @@ namespace UE4CodeGen_Private
 	template <typename T>
 	struct TStructOps : public UScriptStruct::ICppStructOps
 	{
+		virtual void Construct(void* Dest) const override { new (Dest) T(); }
+		virtual void Destruct(void* Dest) const override { static_cast<T*>(Dest)->~T(); }
 		virtual void Copy(void* Dest, const void* Src) const override
 		{
 			*static_cast<T*>(Dest) = *static_cast<const T*>(Src);
@@ -93,6 +96,8 @@ namespace UE4CodeGen_Private
 		{
 			Get(Dest) = Get(const_cast<void*>(Src));
 		}
+		virtual void InitializeValue(void* Dest) const override { new (Dest) TArray<T>(); }
+		virtual void DestroyValue(void* Dest) const override { Get(Dest).~TArray<T>(); }
 
 	private:
 		static TArray<T>& Get(void* Array) { return *static_cast<TArray<T>*>(Array); }

@@ -5,6 +5,7 @@
 #include "UObject/ObjectMacros.h"
 #include "UObject/UObjectGlobals.h"
 
+class FProperty;
 class UWorld;
 
 /**
@@ -77,11 +78,30 @@ public:
 	/** Flags the package as changed. False if that can't be: of templates and of what is never saved. */
 	bool MarkPackageDirty() const;
 
+	/**
+	 * To be called before the object changes. While a step of the undo history is recorded, a transactional object is
+	 * saved into it, and the package is dirty only once the step ends with a change; else the package is dirty at once,
+	 * unless bAlwaysMarkDirty is false.
+	 * @return whether the object was saved.
+	 */
+	virtual bool Modify(bool bAlwaysMarkDirty = true);
+
+	/** Somebody is about to change the property (null: any of them). Modifies the object. */
+	virtual void PreEditChange(FProperty* PropertyAboutToChange);
+
+	/** Somebody has changed a property. Tells FCoreUObjectDelegates. */
+	virtual void PostEditChangeProperty(FPropertyChangedEvent& PropertyChangedEvent);
+
+	/** Undo or redo has changed the object. Passes for a change of an unknown property. */
+	virtual void PostEditUndo();
+
 	/** The world that the object is in, or null. */
 	virtual UWorld* GetWorld() const;
 
 	/** The object and its parts have the values of their templates. */
 	virtual void PostInitProperties() {}
+	/** The object's values were read from a file. Its parts may still have to hear of it. */
+	virtual void PostLoad() {}
 
 	/** The collector destroys the object next. The objects that die together are all still there. */
 	virtual void BeginDestroy() {}

@@ -3,14 +3,33 @@
 
 #include "Containers/Array.h"
 #include "Containers/UnrealString.h"
+#include "Delegates/Delegate.h"
 #include "Misc/AssertionMacros.h"
 #include "UObject/NameTypes.h"
 #include "UObject/ObjectMacros.h"
 
 class FProperty;
+class ITransaction;
 class UObject;
+struct FPropertyChangedEvent;
 
 /** @file Making, finding and collecting objects. All of it belongs to the game thread. */
+
+/** The step of the undo history that is being recorded, or null. Only the history sets it. */
+extern COREUOBJECT_API ITransaction* GUndo;
+
+/** What happens to objects, whoever does it. */
+struct COREUOBJECT_API FCoreUObjectDelegates
+{
+	DECLARE_MULTICAST_DELEGATE_OneParam(FOnObjectModified, UObject*)
+		DECLARE_MULTICAST_DELEGATE_TwoParams(FOnObjectPropertyChanged, UObject*, FPropertyChangedEvent&)
+
+		/** An object is about to change. */
+		static FOnObjectModified OnObjectModified;
+
+	/** A property of an object has changed; which one is unknown after undo. */
+	static FOnObjectPropertyChanged OnObjectPropertyChanged;
+};
 
 /** What a new object is made from. */
 struct FStaticConstructObjectParameters

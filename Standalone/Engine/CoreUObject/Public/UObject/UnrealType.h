@@ -8,6 +8,8 @@
 #include "UObject/Field.h"
 #include "UObject/Object.h"
 
+#include <new>
+
 /** @file Reflected properties: what details panels, undo, save slots, level files and the collector know of an object's
  * members. */
 
@@ -25,6 +27,21 @@ namespace EPropertyChangeType
 		ValueSet = 1u << 4,
 	};
 }
+
+/** Which property of an object has changed, and how. */
+struct FPropertyChangedEvent
+{
+	FPropertyChangedEvent(
+		FProperty* InProperty, EPropertyChangeType::Type InChangeType = EPropertyChangeType::Unspecified)
+		: Property(InProperty), MemberProperty(InProperty), ChangeType(InChangeType)
+	{}
+
+	/** The innermost property that has changed; null if it is not known. */
+	FProperty* Property;
+	/** The object's own property that Property is or lies in. */
+	FProperty* MemberProperty;
+	EPropertyChangeType::Type ChangeType;
+};
 
 /** One reflected member. Value pointers point at the member itself, container pointers at the object or structure. */
 class COREUOBJECT_API FProperty : public FField
@@ -51,6 +68,9 @@ public:
 		return ContainerPtrToValuePtr<ValueType>(const_cast<void*>(ContainerPtr), ArrayIndex);
 	}
 
+	/** Makes a default value in raw memory of ElementSize bytes, which DestroyValue must end. */
+	virtual void InitializeValue(void* Dest) const = 0;
+	virtual void DestroyValue(void* Dest) const = 0;
 	virtual void CopyCompleteValue(void* Dest, const void* Src) const = 0;
 	void CopyCompleteValue_InContainer(void* DestContainer, const void* SrcContainer) const
 	{
@@ -102,6 +122,8 @@ public:
 	{
 		return GetPropertyValue(ContainerPtrToValuePtr<void>(A));
 	}
+	virtual void InitializeValue(void* Dest) const override { new (Dest) TCppType(); }
+	virtual void DestroyValue(void* Dest) const override { static_cast<TCppType*>(Dest)->~TCppType(); }
 	virtual void CopyCompleteValue(void* Dest, const void* Src) const override
 	{
 		SetPropertyValue(Dest, GetPropertyValue(Src));
@@ -115,6 +137,7 @@ bool IsIdenticalPropertyValue(const T& A, const T& B)
 {
 	return A == B;
 }
+COREUOBJECT_API bool IsIdenticalPropertyValue(const float& A, const float& B);
 COREUOBJECT_API bool IsIdenticalPropertyValue(const FString& A, const FString& B);
 COREUOBJECT_API bool IsIdenticalPropertyValue(const FName& A, const FName& B);
 COREUOBJECT_API bool IsIdenticalPropertyValue(const FText& A, const FText& B);
@@ -179,6 +202,8 @@ public:
 	{
 		return GetObjectPropertyValue(ContainerPtrToValuePtr<void>(ContainerAddress));
 	}
+	virtual void InitializeValue(void* Dest) const override { SetObjectPropertyValue(Dest, nullptr); }
+	virtual void DestroyValue(void*) const override {}
 	virtual void CopyCompleteValue(void* Dest, const void* Src) const override;
 	virtual bool Identical(const void* A, const void* B, uint32 PortFlags = 0) const override;
 	virtual bool ContainsObjectReference() const override { return true; }
@@ -200,6 +225,8 @@ public:
 
 	FStructProperty(FName InName, UScriptStruct* InStruct);
 
+	virtual void InitializeValue(void* Dest) const override { Struct->GetCppStructOps()->Construct(Dest); }
+	virtual void DestroyValue(void* Value) const override { Struct->GetCppStructOps()->Destruct(Value); }
 	virtual void CopyCompleteValue(void* Dest, const void* Src) const override;
 	virtual bool Identical(const void* A, const void* B, uint32 PortFlags = 0) const override;
 	/** Asked while the structure may still be getting its properties, so the answer is the careful one. */

@@ -3,6 +3,7 @@
 
 #include "Engine/Level.h"
 #include "GameFramework/Actor.h"
+#include "Misc/ITransaction.h"
 #include "UObject/Class.h"
 #include "UObject/Package.h"
 #include "UObject/UObjectHash.h"
@@ -73,6 +74,10 @@ AActor* UWorld::SpawnActor(
 	PersistentLevel->Actors.Add(Actor);
 	Actor->SetActorLocation(Location ? *Location : FVector::ZeroVector);
 	Actor->SetActorRotation(Rotation ? *Rotation : FRotator::ZeroRotator);
+	if (GUndo && Actor->HasAnyFlags(RF_Transactional))
+	{
+		GUndo->SaveCreated(Actor);
+	}
 	return Actor;
 }
 
@@ -85,6 +90,12 @@ bool UWorld::DestroyActor(AActor* Actor)
 	}
 	// The others keep their places, so that nobody who walks through them is thrown off course.
 	PersistentLevel->Actors[Index] = nullptr;
+	TArray<UActorComponent*> Components;
+	Actor->GetComponents(Components);
+	for (UActorComponent* Component : Components)
+	{
+		Component->MarkPendingKill();
+	}
 	Actor->MarkPendingKill();
 	return true;
 }

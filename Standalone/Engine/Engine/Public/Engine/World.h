@@ -48,7 +48,7 @@ public:
 
 	/**
 	 * Places a new actor; Location and Rotation may be null for zero. The package is not flagged as changed: that is
-	 * left to whoever spawns.
+	 * left to whoever spawns, or to the step of the undo history that is being recorded.
 	 * @return null for no class, an abstract one, one that is no actor, or a taken name (see NameMode).
 	 */
 	AActor* SpawnActor(UClass* InClass, FVector const* Location = nullptr, FRotator const* Rotation = nullptr,

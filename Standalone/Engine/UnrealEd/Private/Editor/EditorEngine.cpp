@@ -17,6 +17,7 @@ void UEditorEngine::PostInitProperties()
 	{
 		SelectedActors = NewObject<USelection>(this, FName("SelectedActors"));
 		SelectedObjects = NewObject<USelection>(this, FName("SelectedObjects"));
+		Trans = NewObject<UTransactor>(this, FName("Trans"));
 	}
 }
 
@@ -27,6 +28,7 @@ FWorldContext& UEditorEngine::GetEditorWorldContext(bool /*bEnsureIsGWorld*/)
 
 UWorld* UEditorEngine::NewMap()
 {
+	ResetTransaction(NSLOCTEXT("UnrealEd", "NewMap", "New Map"));
 	SelectNone(true, true, false);
 	SelectedObjects->DeselectAll();
 	UWorld* OldWorld = EditorWorldContext.World();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Editor/Transactor.h"
 #include "Engine/Engine.h"
 #include "UObject/Object.h"
 
@@ -26,7 +27,7 @@ public:
 
 	/**
 	 * Opens an empty level: destroys the world of the level that was open and deselects everything. Viewports that
-	 * showed that world show the new one.
+	 * showed that world show the new one. The undo history is forgotten.
 	 */
 	UWorld* NewMap();
 
@@ -58,6 +59,16 @@ public:
 	/** What is selected of all that is no actor. */
 	USelection* GetSelectedObjects() const;
 
+	/** Begins a step of the undo history; see UTransactor. @return how many were open before. */
+	int32 BeginTransaction(const FText& Description) { return Trans->Begin(Description); }
+	/** Ends what the last BeginTransaction began. @return how many were open before. */
+	int32 EndTransaction() { return Trans->End(); }
+	/** @return false if there is no step to undo, or if one is being recorded. */
+	bool UndoTransaction(bool bCanRedo = true) { return Trans->Undo(bCanRedo); }
+	bool RedoTransaction() { return Trans->Redo(); }
+	/** Forgets the undo history. */
+	void ResetTransaction(const FText& Reason) { Trans->Reset(Reason); }
+
 	/** Shows the objects in the content browser; brings it to the front if asked. See FStandaloneEditorEvents. */
 	void SyncBrowserToObjects(TArray<UObject*>& InObjectsToSync, bool bFocusContentBrowser = true);
 
@@ -66,6 +77,10 @@ public:
 	 * is deleted.
 	 */
 	void SetActiveViewport(FViewport* InViewport);
+
+	/** The undo history. */
+	UPROPERTY()
+	UTransactor* Trans = nullptr;
 
 private:
 	FWorldContext EditorWorldContext;
