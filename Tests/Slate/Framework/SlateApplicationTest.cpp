@@ -62,6 +62,16 @@ namespace
 	};
 
 	typedef FSlateApplicationTest FSlateApplicationDeathTest;
+
+	/** A clock may stand for a few ticks; one that stands for all of these never moves. */
+	void TickUntilAfter(double Seconds)
+	{
+		FSlateApplication& App = FSlateApplication::Get();
+		for (int32 Ticks = 0; Ticks < 1000000 && App.GetCurrentTime() <= Seconds; ++Ticks)
+		{
+			App.Tick();
+		}
+	}
 }
 
 TEST(FSlateApplication, IsThereBetweenCreateAndShutdown)
@@ -72,6 +82,34 @@ TEST(FSlateApplication, IsThereBetweenCreateAndShutdown)
 	EXPECT_EQ(FSlateApplication::Get().GetRenderer(), nullptr);
 	FSlateApplication::Shutdown();
 	EXPECT_FALSE(FSlateApplication::IsInitialized());
+}
+
+TEST(FSlateApplication, TellsTimeByTheMachinesClockFromItsMakingOn)
+{
+	FSlateApplication::Create();
+	FSlateApplication& App = FSlateApplication::Get();
+	EXPECT_EQ(App.GetCurrentTime(), 0.0);
+	TickUntilAfter(0.0);
+	const double First = App.GetCurrentTime();
+	EXPECT_GT(First, 0.0);
+	EXPECT_LT(First, 60.0);
+	EXPECT_EQ(App.GetCurrentTime(), First) << "it stands between two ticks";
+	TickUntilAfter(First);
+	EXPECT_GT(App.GetCurrentTime(), First);
+	FSlateApplication::Shutdown();
+}
+
+TEST(FSlateApplication, KeepsTheTimeOnceItWasSet)
+{
+	FSlateApplication::Create();
+	FSlateApplication::Get().SetCurrentTime(7.5);
+	FSlateApplication::Get().Tick();
+	EXPECT_EQ(FSlateApplication::Get().GetCurrentTime(), 7.5);
+	FSlateApplication::Shutdown();
+	FSlateApplication::Create();
+	FSlateApplication::Get().Tick();
+	EXPECT_NE(FSlateApplication::Get().GetCurrentTime(), 7.5) << "the next application has a clock of its own";
+	FSlateApplication::Shutdown();
 }
 
 TEST(FSlateApplicationLifeDeathTest, DiesWhenAskedForBeforeItIsCreated)

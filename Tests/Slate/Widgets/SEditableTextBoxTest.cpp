@@ -274,6 +274,42 @@ TEST_F(FEditableTextBoxTest, StartsWithItsTextArgument)
 	EXPECT_TRUE(Filled->GetText().ToString().Equals(TEXT("first")));
 }
 
+TEST_F(FEditableTextBoxTest, FollowsABoundTextUnlessSomethingIsTyped)
+{
+	FText Bound = FText::FromString(TEXT("one"));
+	FText Committed;
+	const TSharedRef<SEditableTextBox> Follower =
+		SNew(SEditableTextBox)
+			.Text_Lambda([&Bound]() { return Bound; })
+			.OnTextCommitted_Lambda([&](const FText& Text, ETextCommit::Type) { Committed = Text; });
+	const auto Shown = [&Follower]() { return std::string(TCHAR_TO_UTF8(*Follower->GetText().ToString())); };
+	Bound = FText::FromString(TEXT("two"));
+	EXPECT_EQ(Shown(), "two");
+	Follower->SlatePrepass(1.0f);
+	const float Narrow = Follower->GetDesiredSize().X;
+	Bound = FText::FromString(TEXT("two and more"));
+	Follower->SlatePrepass(1.0f);
+	EXPECT_GT(Follower->GetDesiredSize().X, Narrow);
+	App().SetKeyboardFocus(Follower);
+	Bound = FText::FromString(TEXT("three"));
+	TypeUnit(8);
+	EXPECT_EQ(Shown(), "thre");
+	Type(TEXT("w"));
+	Bound = FText::FromString(TEXT("four"));
+	EXPECT_EQ(Shown(), "threw");
+	// What nobody took over is gone with the commit.
+	KeyDown(EKeys::Enter);
+	EXPECT_TRUE(Committed.ToString().Equals(TEXT("threw")));
+	EXPECT_EQ(Shown(), "four");
+	App().SetKeyboardFocus(Follower);
+	Type(TEXT("!"));
+	App().ClearKeyboardFocus(EFocusCause::Mouse);
+	EXPECT_TRUE(Committed.ToString().Equals(TEXT("four!")));
+	EXPECT_EQ(Shown(), "four");
+	Follower->SetText(FText::FromString(TEXT("fixed")));
+	EXPECT_EQ(Shown(), "fixed");
+}
+
 TEST_F(FEditableTextBoxTest, IsAtLeastAsWideAsItsMinimumAndTheFrame)
 {
 	const TSharedRef<SEditableTextBox> Wide = SNew(SEditableTextBox).MinDesiredWidth(300);

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "Brushes/SlateImageBrush.h"
+#include "Styling/CoreStyle.h"
 #include "Styling/SlateStyle.h"
 
 namespace
@@ -108,4 +109,23 @@ TEST(FSlateColor, IsTheForegroundUnlessSpecified)
 	EXPECT_TRUE(FSlateColor(FLinearColor::Red).IsColorSpecified());
 	EXPECT_EQ(FSlateColor(FLinearColor::Red).GetSpecifiedColor(), FLinearColor::Red);
 	EXPECT_FALSE(FSlateColor(FLinearColor::Red) == FSlateColor(FLinearColor::White));
+}
+
+TEST(FSlateStyleSet, FindsFontsByKeyAndSpecifier)
+{
+	FSlateStyleSet Style("Test");
+	const FSlateFontInfo Bold = FCoreStyle::GetDefaultFontStyle("Bold", 17);
+	Style.Set("Plugin.Font", FCoreStyle::GetDefaultFontStyle("Italic", 3));
+	Style.Set("plugin.font", Bold);
+	EXPECT_EQ(Style.GetFontStyle("Plugin.FONT"), Bold);
+	EXPECT_EQ(Style.GetFontStyle("Plugin", ".Font"), Bold);
+}
+
+TEST(FSlateStyleSet, GivesTheDefaultFontForAKeyThatItLacks)
+{
+	FSlateStyleSet Style("Test");
+	Style.Set("Brush", new FSlateBrush());
+	const FSlateFontInfo Default = FCoreStyle::GetDefaultFontStyle("Regular", 9);
+	EXPECT_EQ(Style.GetFontStyle("Nothing"), Default);
+	EXPECT_EQ(Style.GetFontStyle("Brush"), Default);
 }

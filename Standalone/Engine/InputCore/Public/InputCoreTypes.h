@@ -30,6 +30,8 @@ struct INPUTCORE_API EKeys
 	static const FKey Enter;
 	static const FKey Escape;
 	static const FKey SpaceBar;
+	static const FKey Up;
+	static const FKey Down;
 
 	static const FKey A;
 	static const FKey V;

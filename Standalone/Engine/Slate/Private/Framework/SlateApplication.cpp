@@ -1,10 +1,18 @@
 // Copyright Corvane. MIT License.
+#include <chrono>
+
 #include "Framework/Application/SlateApplication.h"
 
+#include "Framework/Notifications/NotificationManager.h"
 #include "Widgets/SWidget.h"
 
 namespace
 {
+	double GetMachineTime()
+	{
+		return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
+	}
+
 	bool TakesPart(const SWidget& Widget)
 	{
 		return Widget.GetVisibility().IsVisible() && Widget.IsEnabled();
@@ -88,10 +96,12 @@ void FSlateApplication::Create()
 {
 	check(!IsInitialized());
 	SetCurrent(MakeShared<FSlateApplication>());
+	Get().StartTime = GetMachineTime();
 }
 
 void FSlateApplication::Shutdown(bool /*bShutdownPlatform*/)
 {
+	FSlateNotificationManager::Get().CloseAll();
 	SetCurrent(nullptr);
 }
 
@@ -113,7 +123,18 @@ bool FSlateApplication::InitializeRenderer(TSharedRef<FSlateRenderer> InRenderer
 
 void FSlateApplication::Tick(ESlateTickType /*TickType*/)
 {
+	if (bFollowsMachine)
+	{
+		CurrentTime = GetMachineTime() - StartTime;
+	}
+	FSlateNotificationManager::Get().Tick();
 	DropLostFocus();
+}
+
+void FSlateApplication::SetCurrentTime(double Seconds)
+{
+	bFollowsMachine = false;
+	CurrentTime = Seconds;
 }
 
 bool FSlateApplication::SetKeyboardFocus(

@@ -59,7 +59,7 @@ namespace
 
 void SEditableTextBox::Construct(const FArguments& InArgs)
 {
-	Text = InArgs._Text.Get();
+	SetText(InArgs._Text);
 	Font =
 		InArgs._Font.IsSet() ? InArgs._Font : FCoreStyle::GetDefaultFontStyle("Regular", FCoreStyle::RegularTextSize);
 	MinDesiredWidth = InArgs._MinDesiredWidth;
@@ -70,8 +70,19 @@ void SEditableTextBox::Construct(const FArguments& InArgs)
 
 void SEditableTextBox::SetText(const TAttribute<FText>& InNewText)
 {
-	Text = InNewText.Get();
+	BoundText = InNewText;
+	Text = BoundText.Get();
+	bTyped = false;
 	bAllSelected = false;
+}
+
+const FText& SEditableTextBox::GetText() const
+{
+	if (!bTyped && BoundText.IsBound())
+	{
+		Text = BoundText.Get();
+	}
+	return Text;
 }
 
 void SEditableTextBox::SelectAllText()
@@ -89,7 +100,7 @@ void SEditableTextBox::OnFocusLost(const FFocusEvent& InFocusEvent)
 	PendingLeadSurrogate = 0;
 	if (!bIsCommittingByEnter)
 	{
-		OnTextCommitted.ExecuteIfBound(FText(Text), GetCommitType(InFocusEvent.GetCause()));
+		Commit(GetCommitType(InFocusEvent.GetCause()));
 	}
 }
 
@@ -141,7 +152,7 @@ FReply SEditableTextBox::OnKeyDown(const FGeometry& /*MyGeometry*/, const FKeyEv
 FVector2D SEditableTextBox::ComputeDesiredSize(float /*LayoutScaleMultiplier*/) const
 {
 	const FMargin Frame(4.0f, 2.0f);
-	FVector2D Result = TextMeasure.Measure(Text.ToString(), Font.Get(), std::numeric_limits<float>::infinity());
+	FVector2D Result = TextMeasure.Measure(GetText().ToString(), Font.Get(), std::numeric_limits<float>::infinity());
 	Result.X = FMath::Max(Result.X, MinDesiredWidth.Get());
 	return Result + Frame.GetDesiredSize();
 }
@@ -149,7 +160,7 @@ FVector2D SEditableTextBox::ComputeDesiredSize(float /*LayoutScaleMultiplier*/) 
 void SEditableTextBox::ReplaceSelection(const FString& Insertion)
 {
 	FString NewText;
-	NewText.Reserve(Text.ToString().Len() + Insertion.Len());
+	NewText.Reserve(GetText().ToString().Len() + Insertion.Len());
 	if (!bAllSelected)
 	{
 		NewText += Text.ToString();
@@ -160,7 +171,7 @@ void SEditableTextBox::ReplaceSelection(const FString& Insertion)
 
 void SEditableTextBox::DeleteBackwards()
 {
-	FString NewText = bAllSelected ? FString() : Text.ToString();
+	FString NewText = bAllSelected ? FString() : GetText().ToString();
 	const int32 Length = NewText.Len();
 	if (Length > 0)
 	{
@@ -181,7 +192,7 @@ void SEditableTextBox::CommitByEnter()
 {
 	// The focus that Enter gives up would commit once more.
 	TGuardValue<bool> Committing(bIsCommittingByEnter, true);
-	OnTextCommitted.ExecuteIfBound(FText(Text), ETextCommit::OnEnter);
+	Commit(ETextCommit::OnEnter);
 	if (ClearKeyboardFocusOnCommit.Get() && HasKeyboardFocus())
 	{
 		FSlateApplication::Get().ClearKeyboardFocus(EFocusCause::Cleared);
@@ -191,10 +202,19 @@ void SEditableTextBox::CommitByEnter()
 void SEditableTextBox::ChangeText(FString&& NewText)
 {
 	bAllSelected = false;
-	if (!Text.ToString().Equals(NewText))
+	if (!GetText().ToString().Equals(NewText))
 	{
 		Text = FText::FromString(MoveTemp(NewText));
+		bTyped = true;
 		// A copy: the handler may set another text.
 		OnTextChanged.ExecuteIfBound(FText(Text));
 	}
+}
+
+void SEditableTextBox::Commit(ETextCommit::Type CommitType)
+{
+	// A copy: the handler may set another text.
+	const FText Committed = GetText();
+	bTyped = false;
+	OnTextCommitted.ExecuteIfBound(Committed, CommitType);
 }

@@ -18,4 +18,15 @@ DECLARE_DELEGATE_RetVal(TSharedRef<SWidget>, FOnGetContent)
 DECLARE_DELEGATE_OneParam(FOnTextChanged, const FText&)
 DECLARE_DELEGATE_TwoParams(FOnTextCommitted, const FText&, ETextCommit::Type)
 DECLARE_DELEGATE_OneParam(FOnCheckStateChanged, ECheckBoxState)
-	// clang-format on
+
+/** Those of widgets that offer items of any type. */
+template <typename ItemType>
+class TSlateDelegates
+{
+public:
+	/** Makes what shows an item. */
+	DECLARE_DELEGATE_RetVal_OneParam(TSharedRef<SWidget>, FOnGenerateWidget, ItemType)
+	/** Is told the item that is selected now, or the empty one. */
+	DECLARE_DELEGATE_TwoParams(FOnSelectionChanged, ItemType, ESelectInfo::Type)
+};
+// clang-format on

@@ -1,6 +1,8 @@
 // Copyright Corvane. MIT License.
 #include "Styling/SlateStyle.h"
 
+#include "Styling/CoreStyle.h"
+
 namespace
 {
 	/** Shown in place of a brush that a set lacks: a plain white square, so that the gap is seen. */
@@ -8,6 +10,11 @@ namespace
 	{
 		static const FSlateBrush DefaultBrush;
 		return DefaultBrush;
+	}
+
+	FName MakeKey(const FName PropertyName, const ANSICHAR* Specifier)
+	{
+		return Specifier ? FName(*(PropertyName.ToString() + Specifier)) : PropertyName;
 	}
 }
 
@@ -19,9 +26,14 @@ const FSlateBrush* FSlateStyleSet::GetBrush(const FName PropertyName, const ANSI
 const FSlateBrush* FSlateStyleSet::GetOptionalBrush(
 	const FName PropertyName, const ANSICHAR* Specifier, const FSlateBrush* const DefaultBrush) const
 {
-	const FName Key = Specifier ? FName(*(PropertyName.ToString() + Specifier)) : PropertyName;
-	const FSlateBrush* const* Found = BrushesByKey.Find(Key);
+	const FSlateBrush* const* Found = BrushesByKey.Find(MakeKey(PropertyName, Specifier));
 	return Found ? *Found : DefaultBrush;
+}
+
+FSlateFontInfo FSlateStyleSet::GetFontStyle(const FName PropertyName, const ANSICHAR* Specifier) const
+{
+	const FSlateFontInfo* Found = FontsByKey.Find(MakeKey(PropertyName, Specifier));
+	return Found ? *Found : FCoreStyle::GetDefaultFontStyle("Regular", FCoreStyle::RegularTextSize);
 }
 
 void FSlateStyleSet::SetContentRoot(const FString& InContentRootDir)
@@ -50,6 +62,11 @@ void FSlateStyleSet::Set(const FName PropertyName, FSlateBrush* InBrush)
 	// Removed first: the map would keep an earlier spelling of the key.
 	BrushesByKey.Remove(PropertyName);
 	BrushesByKey.Add(PropertyName, InBrush);
+}
+
+void FSlateStyleSet::Set(const FName PropertyName, const FSlateFontInfo& InFontInfo)
+{
+	FontsByKey.Add(PropertyName, InFontInfo);
 }
 
 const FName* FSlateStyleSet::FindKey(const FSlateBrush* Brush) const

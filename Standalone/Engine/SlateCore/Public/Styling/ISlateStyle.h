@@ -1,10 +1,11 @@
 // Copyright Corvane. MIT License.
 #pragma once
 
+#include "Fonts/SlateFontInfo.h"
 #include "Styling/SlateBrush.h"
 #include "Styling/StyleDefaults.h"
 
-/** A named set of brushes. Keys are names and so ignore the case of ASCII letters. */
+/** A named set of brushes and fonts. Keys are names and so ignore the case of ASCII letters. */
 class SLATECORE_API ISlateStyle
 {
 public:
@@ -16,6 +17,8 @@ public:
 	/** The key's brush, or the given one when there is none. */
 	virtual const FSlateBrush* GetOptionalBrush(const FName PropertyName, const ANSICHAR* Specifier = nullptr,
 		const FSlateBrush* const DefaultBrush = FStyleDefaults::GetNoBrush()) const = 0;
+	/** The key's font, or the default font when there is none. */
+	virtual FSlateFontInfo GetFontStyle(const FName PropertyName, const ANSICHAR* Specifier = nullptr) const = 0;
 
 private:
 	friend class FStyleInspector;

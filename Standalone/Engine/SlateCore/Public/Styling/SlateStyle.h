@@ -19,6 +19,7 @@ public:
 	virtual const FSlateBrush* GetBrush(const FName PropertyName, const ANSICHAR* Specifier = nullptr) const override;
 	virtual const FSlateBrush* GetOptionalBrush(const FName PropertyName, const ANSICHAR* Specifier = nullptr,
 		const FSlateBrush* const DefaultBrush = FStyleDefaults::GetNoBrush()) const override;
+	virtual FSlateFontInfo GetFontStyle(const FName PropertyName, const ANSICHAR* Specifier = nullptr) const override;
 
 	/** The folder that RootToContentDir starts from. */
 	virtual void SetContentRoot(const FString& InContentRootDir);
@@ -29,6 +30,7 @@ public:
 
 	/** Puts a brush under a key and owns it from now on. */
 	void Set(const FName PropertyName, FSlateBrush* InBrush);
+	void Set(const FName PropertyName, const FSlateFontInfo& InFontInfo);
 
 private:
 	virtual const FName* FindKey(const FSlateBrush* Brush) const override;
@@ -37,4 +39,5 @@ private:
 	FString ContentRootDir;
 	TArray<TUniquePtr<FSlateBrush>> Brushes;
 	TMap<FName, const FSlateBrush*> BrushesByKey;
+	TMap<FName, FSlateFontInfo> FontsByKey;
 };

@@ -25,14 +25,20 @@ class SLATE_API FSlateApplication : public FSlateApplicationBase
 {
 public:
 	static void Create();
-	/** Forgets focus and renderer without telling the widgets. */
+	/** Forgets focus and renderer without telling the widgets. No notification stays on screen. */
 	static void Shutdown(bool bShutdownPlatform = true);
 	static bool IsInitialized();
 	/** Fatal while there is no application. */
 	static FSlateApplication& Get();
 	bool InitializeRenderer(TSharedRef<FSlateRenderer> InRenderer, bool bQuietMode = false);
 
+	/** Moves the time on, takes expired notifications off the screen and the focus from what may not have it. */
 	void Tick(ESlateTickType TickType = ESlateTickType::All);
+
+	/** As of the last tick, in seconds since the application was made. */
+	double GetCurrentTime() const { return CurrentTime; }
+	/** From now on nothing but this moves the time. The real engine always goes by the machine's clock. */
+	void SetCurrentTime(double Seconds);
 
 	/** @return whether the widget has the focus now; one that cannot have it changes nothing. */
 	bool SetKeyboardFocus(
@@ -67,4 +73,7 @@ private:
 
 	TWeakPtr<SWidget> FocusedWidget;
 	TWeakPtr<SWidget> MouseCaptor;
+	double StartTime = 0.0;
+	double CurrentTime = 0.0;
+	bool bFollowsMachine = true;
 };

@@ -11,7 +11,8 @@
  * A line of text to type into. The caret stands at the end, or everything is selected; what is typed or pasted replaces
  * the selection. Line breaks are left out of pasted text, other control characters are not typed. It commits on Enter,
  * and whenever it loses the focus, whether anything was typed or not; Enter is one commit although it gives up the
- * focus too. SetText raises no event.
+ * focus too. SetText raises no event. A bound text is followed as long as nothing is typed, and again after the commit:
+ * what nobody took over is gone.
  */
 class SLATE_API SEditableTextBox : public SLeafWidget
 {
@@ -31,8 +32,8 @@ public:
 
 	void Construct(const FArguments& InArgs);
 
-	const FText& GetText() const { return Text; }
-	/** Takes over the attribute's present value. */
+	const FText& GetText() const;
+	/** Forgets what was typed. */
 	void SetText(const TAttribute<FText>& InNewText);
 	void SelectAllText();
 	/** The real engine keeps this getter to itself, and the next one. */
@@ -55,8 +56,12 @@ private:
 	void CommitByEnter();
 	/** Tells the change, if it is one. */
 	void ChangeText(FString&& NewText);
+	void Commit(ETextCommit::Type CommitType);
 
-	FText Text;
+	TAttribute<FText> BoundText;
+	/** What is shown: the bound text as it last was, or what was typed since. */
+	mutable FText Text;
+	bool bTyped = false;
 	bool bAllSelected = false;
 	/** The first unit of a character whose second one has not come yet, or 0. */
 	TCHAR PendingLeadSurrogate = 0;
