@@ -95,6 +95,7 @@ TEST(FName, SplitsACodesNameIntoWords)
 	EXPECT_EQ(Utf8(FName::NameToDisplayString(TEXT("HTTPOutput"), false)), "HTTPOutput");
 	EXPECT_EQ(Utf8(FName::NameToDisplayString(TEXT("use_the_size"), false)), "Use The Size");
 	EXPECT_EQ(Utf8(FName::NameToDisplayString(TEXT("_Hidden__A"), false)), "Hidden A");
+	EXPECT_EQ(Utf8(FName::NameToDisplayString(TEXT("Two Words and 3"), false)), "Two Words and 3");
 	EXPECT_EQ(Utf8(FName::NameToDisplayString(TEXT(""), true)), "");
 }
 

@@ -25,6 +25,16 @@ TEST(FText, FromStringShowsTheStringAndHasNoIdentity)
 	EXPECT_EQ(Utf8(*FTextInspector::GetSourceString(Text)), "Stage {0}");
 }
 
+TEST(FText, AsNumberGroupsDigitsAndHasNoIdentity)
+{
+	EXPECT_EQ(Utf8(FText::AsNumber(0).ToString()), "0");
+	EXPECT_EQ(Utf8(FText::AsNumber(999).ToString()), "999");
+	EXPECT_EQ(Utf8(FText::AsNumber(4294967295U).ToString()), "4,294,967,295");
+	EXPECT_EQ(Utf8(FText::AsNumber(-1234).ToString()), "-1,234");
+	EXPECT_EQ(Utf8(FText::AsNumber(INT64_MIN).ToString()), "-9,223,372,036,854,775,808");
+	EXPECT_FALSE(FTextInspector::GetKey(FText::AsNumber(4)).IsSet());
+}
+
 TEST(FText, LiteralCarriesNamespaceKeyAndSource)
 {
 	const FText Text = LOCTEXT("Greeting", "Hello");

@@ -1,5 +1,6 @@
 // Copyright Corvane. MIT License.
 #include <unicode/ucol.h>
+#include <unicode/unum.h>
 
 #include "Internationalization/Text.h"
 
@@ -63,6 +64,18 @@ FText FText::FromString(FString&& String)
 FText FText::AsCultureInvariant(const FString& String)
 {
 	return FromString(String);
+}
+
+FText FText::AsNumber(int64 Val)
+{
+	UErrorCode Status = U_ZERO_ERROR;
+	// English, so that the answer does not depend on the machine. The root locale would not group.
+	UNumberFormat* const Formatter = unum_open(UNUM_DECIMAL, nullptr, 0, "en", nullptr, &Status);
+	TCHAR Digits[32];
+	const int32 NumDigits = unum_formatInt64(Formatter, Val, Digits, 32, nullptr, &Status);
+	check(U_SUCCESS(Status));
+	unum_close(Formatter);
+	return FromString(FString(NumDigits, Digits));
 }
 
 FText FText::Format(FTextFormat Fmt, const FFormatOrderedArguments& Args)

@@ -143,7 +143,7 @@ FString FName::NameToDisplayString(const FString& InDisplayName, const bool bIsB
 		{
 			continue;
 		}
-		if (bWordBegins && !Result.IsEmpty())
+		if (bWordBegins && !Result.IsEmpty() && Result[Result.Len() - 1] != TEXT(' '))
 		{
 			Result.AppendChar(TEXT(' '));
 		}

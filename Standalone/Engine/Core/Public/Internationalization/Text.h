@@ -60,6 +60,9 @@ public:
 	/** A text that is the same in every language. */
 	static FText AsCultureInvariant(const FString& String);
 
+	/** A number for users to read, its digits in groups: 1,234. */
+	static FText AsNumber(int64 Val);
+
 	/**
 	 * Fills the pattern's {0}, {1} and so on with the arguments' texts, word for word: braces within an argument mean
 	 * nothing. A back-tick takes the meaning from a brace or back-tick that follows it. A token without a value, and a
