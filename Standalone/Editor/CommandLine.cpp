@@ -12,6 +12,7 @@ namespace
 	constexpr const char* NoWindow =
 		"this version has no window yet; `quillon-editor create NAME` does the job without one (see --help)";
 	constexpr const char* NoQtView = "--view qt needs the editor window, which this build does not have";
+	constexpr const char* NoSavedDir = "--saved needs the name of a folder";
 	constexpr const char* NoScreenshot = "--screenshot needs the editor window, which this build does not have";
 
 	FCommandLine Refuse(const std::string& Reason)
@@ -105,6 +106,10 @@ namespace
 	FCommandLine Check(const FArguments& Arguments)
 	{
 		std::u16string Ignored;
+		if (Arguments.Create.SavedDir == "" || Arguments.Drive.SavedDir == "")
+		{
+			return Refuse(NoSavedDir);
+		}
 		if (Arguments.DriveCommand->parsed() || Arguments.WorkerCommand->parsed())
 		{
 			return CheckDrive(Arguments);

@@ -22,6 +22,7 @@ namespace
 	{
 		FStandaloneEditorOptions EditorOptions;
 		EditorOptions.ProjectDir = Options.ProjectDir.value_or(std::string());
+		EditorOptions.SavedDir = Options.SavedDir.value_or(std::string());
 		if (!Editor.Start(EditorOptions, OutError) ||
 			(Options.LevelFile && !FLevelFile::Open(*Options.LevelFile, OutError)) ||
 			!FCreateJob(Editor).Run(FEngineText::FromUtf8(Options.Name), OutReport, OutError))

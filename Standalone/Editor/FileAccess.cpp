@@ -8,6 +8,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
@@ -28,9 +29,10 @@ namespace
 		return Fail(Path, std::strerror(errno), OutError);
 	}
 
-	bool ReadAll(const FDescriptor& File, size_t MaxSize, std::string& OutBytes)
+	bool ReadAll(const FDescriptor& File, size_t Size, size_t MaxSize, std::string& OutBytes)
 	{
-		std::string Buffer(size_t(64) * 1024, '\0');
+		// A small file in one piece, and its end with it.
+		std::string Buffer(std::min(Size + 1, size_t(64) * 1024), '\0');
 		// One byte more than allowed tells a file that grew since it was measured.
 		while (OutBytes.size() <= MaxSize)
 		{
@@ -45,15 +47,9 @@ namespace
 		return false;
 	}
 
-	/** The access rights that a newly created file gets, or those of the file that is replaced. */
-	mode_t ModeFor(const std::string& Path)
+	/** The access rights that a newly created file gets. */
+	mode_t GetUsualMode()
 	{
-		struct stat Info
-		{};
-		if (::stat(Path.c_str(), &Info) == 0)
-		{
-			return Info.st_mode & 07777U;
-		}
 		const mode_t Mask = ::umask(0);
 		::umask(Mask);
 		return 0666U & ~Mask;
@@ -62,36 +58,51 @@ namespace
 	/** The file that is meant: behind symbolic links, so that a link stays a link. */
 	std::string ResolveLinks(const std::string& Path)
 	{
+		struct stat Info
+		{};
+		if (::lstat(Path.c_str(), &Info) != 0 || !S_ISLNK(Info.st_mode))
+		{
+			// Links above it lead the temporary file to the same folder.
+			return Path;
+		}
 		std::error_code Error;
 		const std::filesystem::path Real = std::filesystem::canonical(Path, Error);
 		return Error ? Path : Real.string();
 	}
 
-	/** @return false if something stands at Path that must not be replaced. */
-	bool MayReplace(const std::string& Path, std::string& OutError)
+	/**
+	 * @param OutMode the access rights of the file that is replaced, or of a new one.
+	 * @return false if something stands at Path that must not be replaced.
+	 */
+	bool MayReplace(const std::string& Path, mode_t& OutMode, std::string& OutError)
 	{
 		struct stat Info
 		{};
 		if (::stat(Path.c_str(), &Info) != 0)
 		{
 			// A missing file is fine; anything else (a file where a folder should be, no right to look) is not.
-			return errno == ENOENT || FailWithErrno(Path, OutError);
+			if (errno != ENOENT)
+			{
+				return FailWithErrno(Path, OutError);
+			}
+			OutMode = GetUsualMode();
+			return true;
 		}
 		if (!S_ISREG(Info.st_mode))
 		{
 			return Fail(Path, S_ISDIR(Info.st_mode) ? std::strerror(EISDIR) : "not a regular file", OutError);
 		}
+		OutMode = Info.st_mode & 07777U;
 		return ::access(Path.c_str(), W_OK) == 0 || FailWithErrno(Path, OutError);
 	}
 
-	bool FillTemporary(FDescriptor& File, const std::string& Target, const std::string& Bytes)
+	bool FillTemporary(FDescriptor& File, mode_t Mode, const std::string& Bytes)
 	{
-		return File.WriteAll(Bytes) && ::fchmod(File.Get(), ModeFor(Target)) == 0 && ::fsync(File.Get()) == 0 &&
-			File.Close();
+		return File.WriteAll(Bytes) && ::fchmod(File.Get(), Mode) == 0 && ::fsync(File.Get()) == 0 && File.Close();
 	}
 
 	/** Makes the rename itself durable. A file system that cannot do this has still replaced the file, so no error. */
-	void FlushFolder(const std::filesystem::path& Folder)
+	void FlushFolder(const std::string& Folder)
 	{
 		const FDescriptor Handle(::open(Folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
 		if (Handle.IsOpen())
@@ -121,25 +132,27 @@ bool FFileAccess::Read(const std::string& Path, size_t MaxSize, std::string& Out
 		return Fail(Path, "larger than " + std::to_string(MaxSize >> 20U) + " MiB", OutError);
 	}
 	OutBytes.reserve(static_cast<size_t>(Info.st_size));
-	return ReadAll(File, MaxSize, OutBytes) || FailWithErrno(Path, OutError);
+	return ReadAll(File, static_cast<size_t>(Info.st_size), MaxSize, OutBytes) || FailWithErrno(Path, OutError);
 }
 
 bool FFileAccess::Replace(
 	const std::string& Path, const std::string& Bytes, std::string& OutError, const std::function<bool()>& BeforeRename)
 {
-	if (!MayReplace(Path, OutError))
+	mode_t Mode = 0;
+	if (!MayReplace(Path, Mode, OutError))
 	{
 		return false;
 	}
-	const std::filesystem::path Target = ResolveLinks(Path);
-	const std::filesystem::path Folder = Target.has_parent_path() ? Target.parent_path() : std::filesystem::path(".");
-	std::string Temporary = (Folder / ".quillon-XXXXXX").string();
+	const std::string Target = ResolveLinks(Path);
+	const size_t Slash = Target.rfind('/');
+	const std::string Folder = Slash == std::string::npos ? "./" : Target.substr(0, Slash + 1);
+	std::string Temporary = Folder + ".quillon-XXXXXX";
 	FDescriptor File(::mkostemp(Temporary.data(), O_CLOEXEC));
 	if (!File.IsOpen())
 	{
 		return FailWithErrno(Path, OutError);
 	}
-	const bool bFilled = FillTemporary(File, Target.string(), Bytes);
+	const bool bFilled = FillTemporary(File, Mode, Bytes);
 	if (bFilled && BeforeRename && !BeforeRename())
 	{
 		::unlink(Temporary.c_str());

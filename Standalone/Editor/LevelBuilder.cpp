@@ -11,6 +11,7 @@
 #include "Engine/World.h"
 #include "GameFramework/Actor.h"
 #include "PropertyReader.h"
+#include "Templates/Casts.h"
 #include "UObject/Class.h"
 
 namespace
@@ -44,15 +45,28 @@ namespace
 		}
 	}
 
+	/** Tells an actor and its components that they were read. */
+	void FinishLoading(AActor& Actor)
+	{
+		TArray<UActorComponent*> Components;
+		Actor.GetComponents(Components);
+		for (UActorComponent* Component : Components)
+		{
+			Component->PostLoad();
+		}
+		Actor.PostLoad();
+	}
+
 	void SetProperties(const FLevelPlan& Plan)
 	{
 		for (const FLevelPlan::FActor& Planned : Plan.Actors)
 		{
 			std::string Error;
 			FPropertyReader Reader(FPropertyReader::EPass::Write, Plan.References, Error);
-			UObject* Actor = Plan.References.Find(Planned.Name)->Object;
+			AActor* Actor = CastChecked<AActor>(Plan.References.Find(Planned.Name)->Object);
 			// The plan was checked with the same rules.
 			verify(Reader.ReadMembers(Planned.Class, Actor, Planned.Properties, Planned.Place / "properties"));
+			FinishLoading(*Actor);
 		}
 	}
 

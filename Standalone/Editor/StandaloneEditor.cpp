@@ -8,15 +8,19 @@
 #include <set>
 #include <unistd.h>
 
+#include "DetailsPanel.h"
 #include "Editor.h"
 #include "EditorAssets.h"
 #include "EngineText.h"
 #include "Engine/World.h"
 #include "Framework/Application/SlateApplication.h"
 #include "Framework/Docking/TabManager.h"
+#include "Framework/Notifications/NotificationManager.h"
 #include "Interfaces/IPluginManager.h"
 #include "Misc/Paths.h"
 #include "Modules/ModuleManager.h"
+#include "SaveGameFolder.h"
+#include "Standalone/PlatformSaveGames.h"
 #include "Standalone/SlateNullRenderer.h"
 #include "Standalone/ToolMenusStartup.h"
 #include "UObject/Package.h"
@@ -77,6 +81,10 @@ FStandaloneEditor::~FStandaloneEditor()
 bool FStandaloneEditor::Start(const FStandaloneEditorOptions& Options, std::string& OutError)
 {
 	check(!bRunning && GEditor == nullptr);
+	if (!Options.SavedDir.empty() && !FSaveGameFolder::Check(Options.SavedDir, OutError))
+	{
+		return false;
+	}
 	bRunning = true;
 	StartEngine(Options);
 	if (Options.bLoadPlugin && !StartPlugin(Options, OutError))
@@ -96,11 +104,17 @@ void FStandaloneEditor::StartEngine(const FStandaloneEditorOptions& Options)
 		AddModuleDirectory(Options.ModuleDir);
 	}
 	AddModuleDirectory(GetProgramDirectory());
+	if (!Options.SavedDir.empty())
+	{
+		SaveGames = std::make_unique<FSaveGameFolder>(Options.SavedDir);
+		FPlatformSaveGames::Install(SaveGames.get());
+	}
 	// Only what the module manager opens registers its types by itself; these are linked.
 	RegisterReflection_Engine();
 	RegisterReflection_ToolMenus();
 	RegisterReflection_UnrealEd();
-	for (const TCHAR* Module : {TEXT("AssetRegistry"), TEXT("AssetTools"), TEXT("PlacementMode")})
+	for (const TCHAR* Module :
+		{TEXT("AssetRegistry"), TEXT("AssetTools"), TEXT("PlacementMode"), TEXT("PropertyEditor")})
 	{
 		FModuleManager::Get().LoadModuleChecked(Module);
 	}
@@ -112,6 +126,7 @@ void FStandaloneEditor::StartEngine(const FStandaloneEditorOptions& Options)
 	GEditor->AddToRoot();
 	GEditor->NewMap();
 	SecondWorld = UWorld::CreateWorld(EWorldType::EditorPreview, false);
+	Details = std::make_unique<FDetailsPanel>();
 	if (Options.bOpenViewport)
 	{
 		Viewports.Open({nullptr}, 0);
@@ -141,12 +156,15 @@ void FStandaloneEditor::Shutdown()
 	{
 		return;
 	}
-	CloseTabs();
+	ClosePanels();
 	FEditorAssets::RemoveAll();
 	FModuleManager::Get().UnloadModulesAtShutdown();
+	FPlatformSaveGames::Install(nullptr);
+	SaveGames.reset();
 	FToolMenusStartup::ShutDown();
 	IPluginManager::Get().ForgetPlugins();
 	Viewports.Close();
+	Details.reset();
 	GEditor->GetEditorWorldContext().World()->DestroyWorld(true);
 	SecondWorld->DestroyWorld(false);
 	SecondWorld = nullptr;
@@ -170,8 +188,10 @@ UWorld* FStandaloneEditor::GetWorld(int32 Index) const
 	return Index == 0 ? GEditor->GetEditorWorldContext().World() : SecondWorld;
 }
 
-void FStandaloneEditor::CloseTabs()
+void FStandaloneEditor::ClosePanels()
 {
+	Details->Close();
+	FSlateNotificationManager::Get().CloseAll();
 	// A copy: closing takes them off the list.
 	const TArray<FGlobalTabmanager::FOpenTab> Tabs = FGlobalTabmanager::Get()->GetOpenTabs();
 	for (const FGlobalTabmanager::FOpenTab& Open : Tabs)

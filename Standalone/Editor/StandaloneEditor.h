@@ -1,12 +1,15 @@
 // Copyright Corvane. MIT License.
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "CoreMinimal.h"
 #include "ViewportSet.h"
 
+class FDetailsPanel;
 class FLevelEditorViewportClient;
+class FSaveGameFolder;
 class UClass;
 class UWorld;
 
@@ -17,6 +20,8 @@ struct FStandaloneEditorOptions
 	std::string ProjectDir;
 	/** A folder of modules' libraries that goes before the program's own. */
 	std::string ModuleDir;
+	/** Where save games go, which need not exist; without it none can be saved. */
+	std::string SavedDir;
 	/** Without the plugin only the engine starts. */
 	bool bLoadPlugin = true;
 	/** Without it there are no viewports and no clients. */
@@ -41,7 +46,10 @@ public:
 	/** Shuts the editor down if it runs. */
 	~FStandaloneEditor();
 
-	/** @return false, with everything undone, if the plugin can't be found or loaded; OutError is then one line. */
+	/**
+	 * @return false, with everything undone, if the plugin can't be found or loaded, or save games could go nowhere;
+	 * OutError is then one line.
+	 */
 	bool Start(const FStandaloneEditorOptions& Options, std::string& OutError);
 
 	/** Ends in the engine's order: what is open first, then the modules, then worlds and editor, then all objects. */
@@ -58,14 +66,19 @@ public:
 	/** The client of the one viewport that the editor starts with; fatal if it was told to start without. */
 	FLevelEditorViewportClient& GetLevelClient() const { return Viewports.GetClient(0); }
 
-	/** Closes what modules have opened, as none of them may be unloaded before. */
-	static void CloseTabs();
+	/** The details of what is selected. */
+	FDetailsPanel& GetDetails() { return *Details; }
+
+	/** Closes what modules have opened or laid out, as none of them may be unloaded before. */
+	void ClosePanels();
 
 private:
 	void StartEngine(const FStandaloneEditorOptions& Options);
 	bool StartPlugin(const FStandaloneEditorOptions& Options, std::string& OutError);
 
+	std::unique_ptr<FSaveGameFolder> SaveGames;
 	FViewportSet Viewports;
+	std::unique_ptr<FDetailsPanel> Details;
 	UWorld* SecondWorld = nullptr;
 	bool bRunning = false;
 };

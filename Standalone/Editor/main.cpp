@@ -19,7 +19,8 @@ int main(int ArgumentCount, char** Arguments)
 	}
 	if (CommandLine.Drive)
 	{
-		return CommandLine.Drive->bWorker ? FDriverWorker::Run() : FDriverFront(*CommandLine.Drive).Run();
+		return CommandLine.Drive->bWorker ? FDriverWorker::Run(*CommandLine.Drive)
+										  : FDriverFront(*CommandLine.Drive).Run();
 	}
 	if (!CommandLine.ErrorLine.empty())
 	{

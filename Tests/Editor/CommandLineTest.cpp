@@ -106,6 +106,12 @@ TEST(FCommandLine, RefusesAnOptionWithoutItsValue)
 	EXPECT_NE(RefusalOf({"create", "Main", "--level"}).find("--level"), std::string::npos);
 }
 
+TEST(FCommandLine, RefusesAFolderWithoutAName)
+{
+	EXPECT_EQ(RefusalOf({"create", "Main", "--saved", ""}), "quillon-editor: --saved needs the name of a folder");
+	EXPECT_EQ(RefusalOf({"drive", "--saved", ""}), "quillon-editor: --saved needs the name of a folder");
+}
+
 TEST(FCommandLine, RefusesAnOptionGivenTwice)
 {
 	EXPECT_NE(RefusalOf({"create", "Main", "--save", "a", "--save", "b"}).find("--save"), std::string::npos);

@@ -18,6 +18,8 @@
 #include "Templates/Casts.h"
 #include "UObject/Package.h"
 #include "UObject/WeakObjectPtrTemplates.h"
+#include "ZAVCaptureComponent.h"
+#include "ZAVCineCamCapture.h"
 
 namespace
 {
@@ -230,4 +232,18 @@ TEST_F(FLevelFileTest, SavesBelowNoRegularFile)
 	EXPECT_FALSE(FLevelFile::Save(Below, Error));
 	EXPECT_EQ(Error, Below + ": Not a directory");
 	EXPECT_TRUE(Editor.GetWorld().GetOutermost()->IsDirty());
+}
+
+TEST(FLevelFile, GivesCaptureComponentsTheShowFlagsOfTheirSettings)
+{
+	const FTestEditor Editor;
+	const FTemporaryFolder Folder;
+	const std::string Path = Folder.Write("level.json", R"({"actors": [{"class": "ZAVCineCamCapture", "name": "Camera",
+		"properties": {"CaptureComponent": {"ShowFlagSettings": [{"ShowFlagName": "fog", "Enabled": false}]}}}]})");
+	std::string Error;
+	ASSERT_TRUE(FLevelFile::Open(Path, Error)) << Error;
+	const AZAVCineCamCapture* Camera = Cast<AZAVCineCamCapture>(FTestEditor::GetActors(Editor.GetWorld())[0]);
+	ASSERT_NE(Camera, nullptr);
+	EXPECT_FALSE(Camera->CaptureComponent->ShowFlags.GetSingleFlag(FEngineShowFlags::SF_Fog));
+	EXPECT_TRUE(Camera->CaptureComponent->ShowFlags.GetSingleFlag(FEngineShowFlags::SF_Bloom));
 }

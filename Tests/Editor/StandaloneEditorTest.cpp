@@ -12,6 +12,8 @@
 #include "Framework/Docking/TabManager.h"
 #include "LevelEditorViewport.h"
 #include "Modules/ModuleManager.h"
+#include "PlatformFeatures.h"
+#include "SaveGameSystem.h"
 #include "Standalone/ToolMenusStartup.h"
 #include "ToolMenus.h"
 #include "UObject/Class.h"
@@ -25,6 +27,11 @@ namespace
 		FStandaloneEditorOptions Options;
 		Options.bLoadPlugin = false;
 		return Options;
+	}
+
+	ISaveGameSystem* GetSaveGames()
+	{
+		return IPlatformFeaturesModule::Get().GetSaveGameSystem();
 	}
 
 	bool IsPluginLoaded()
@@ -106,6 +113,65 @@ TEST(FStandaloneEditor, ClosesTabsBeforeTheModulesThatMadeThem)
 	Editor.Shutdown();
 	EXPECT_FALSE(Wizard.IsValid());
 	EXPECT_EQ(FGlobalTabmanager::Get()->GetOpenTabs().Num(), 0);
+}
+
+TEST(FStandaloneEditor, KeepsSaveGamesFromBeforeThePluginsStartUntilAfterItsEnd)
+{
+	static ISaveGameSystem* SeenAtStart;
+	static ISaveGameSystem* SeenAtEnd;
+	/** Is shut down with the plugin's modules. */
+	class FWitness : public IModuleInterface
+	{
+		virtual void ShutdownModule() override { SeenAtEnd = GetSaveGames(); }
+	};
+	SeenAtStart = nullptr;
+	SeenAtEnd = nullptr;
+	const FTemporaryFolder Folder;
+	FStandaloneEditorOptions Options;
+	Options.SavedDir = Folder.File("saved");
+	// Asked after the engine's own modules, before the plugin.
+	Options.GetEditorClass = []
+	{
+		SeenAtStart = GetSaveGames();
+		return UEditorEngine::StaticClass();
+	};
+	FStandaloneEditor Editor;
+	std::string Error;
+	ASSERT_TRUE(Editor.Start(Options, Error)) << Error;
+	ISaveGameSystem* const SaveGames = GetSaveGames();
+	ASSERT_NE(SaveGames, nullptr);
+	EXPECT_EQ(SeenAtStart, SaveGames);
+	EXPECT_TRUE(SaveGames->SaveGame(false, TEXT("Slot"), 0, {1}));
+	EXPECT_EQ(FTemporaryFolder::ReadFile(Folder.File("saved/SaveGames/Slot.sav")).back(), 1);
+	FModuleManager::Get().RegisterStaticallyLinkedModule("SaveGameWitness",
+		FInitializeStaticallyLinkedModule::CreateLambda([]() -> IModuleInterface* { return new FWitness; }));
+	FModuleManager::Get().LoadModuleChecked("SaveGameWitness");
+	Editor.Shutdown();
+	EXPECT_EQ(SeenAtEnd, SaveGames);
+	EXPECT_EQ(GetSaveGames(), nullptr);
+}
+
+TEST(FStandaloneEditor, KeepsNoSaveGamesWithoutAFolder)
+{
+	FStandaloneEditor Editor;
+	std::string Error;
+	ASSERT_TRUE(Editor.Start(EngineOnly(), Error)) << Error;
+	EXPECT_EQ(GetSaveGames(), nullptr);
+}
+
+TEST(FStandaloneEditor, DoesNotStartWhereSaveGamesCouldGoNowhere)
+{
+	const FTemporaryFolder Folder;
+	FStandaloneEditorOptions Options;
+	Options.SavedDir = Folder.Write("saved", "a file");
+	FStandaloneEditor Editor;
+	std::string Error;
+	EXPECT_FALSE(Editor.Start(Options, Error));
+	EXPECT_EQ(Error, Options.SavedDir + ": Not a directory");
+	ExpectNothingRuns();
+	EXPECT_EQ(GetSaveGames(), nullptr);
+	Options.SavedDir.clear();
+	EXPECT_TRUE(Editor.Start(Options, Error)) << Error;
 }
 
 TEST(FStandaloneEditor, BringsMenusUpOnceAllModulesAreLoaded)

@@ -194,6 +194,19 @@ TEST(FCreate, RefusesAProjectWithoutThePlugin)
 	EXPECT_EQ(Line.find(Folder.File("")), 0U) << Line;
 }
 
+TEST(FCreate, RefusesAFileAsTheFolderForWhatIsSaved)
+{
+	const FTemporaryFolder Folder;
+	const std::string File = Folder.Write("saved", "a file");
+	for (const std::string& Saved : {File, File + "/below"})
+	{
+		EXPECT_EQ(
+			ExpectBadInput(FChildProcess::Run({"create", "Main", "--saved", Saved, "--save", Folder.File("level")})),
+			Saved + ": Not a directory");
+	}
+	EXPECT_EQ(Folder.List(), std::vector<std::string>{"saved"});
+}
+
 TEST(FCreate, WritesNothingIntoTheWorkingDirectory)
 {
 	const FTemporaryFolder Folder;

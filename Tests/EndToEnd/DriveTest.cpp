@@ -225,6 +225,20 @@ TEST(Drive, TakesTheNullViewAndAFolderForWhatIsSaved)
 	EXPECT_EQ(Run.Output, Collected + "\n{\"do\":\"restart\",\"ok\":true}\n");
 }
 
+TEST(Drive, RefusesAFileAsTheFolderForWhatIsSaved)
+{
+	const FTemporaryFolder Folder;
+	const std::string Saved = Folder.Write("saved", "a file");
+	for (const std::string& Recording : {std::string(), Collect + '\n'})
+	{
+		const FChildProcess Run =
+			FChildProcess::Run({"drive", Folder.Write("recording.jsonl", Recording), "--saved", Saved});
+		EXPECT_EQ(Run.Status, 2);
+		EXPECT_EQ(Run.Output, "");
+		EXPECT_EQ(Run.Errors, Saved + ": Not a directory\n");
+	}
+}
+
 TEST(Drive, HandsTheSavedFolderToEachWorker)
 {
 	const FTemporaryFolder Folder;

@@ -123,9 +123,10 @@ namespace
 		{
 			throw FRequestError("actors of this class have no place in the world");
 		}
+		GEditor->BeginTransaction(NSLOCTEXT("UnrealEd", "CreateActors", "Create Actors"));
 		AActor* Actor = Session.GetEditor().GetWorld(0)->SpawnActor(Class, &Location, &Rotation);
 		check(Actor != nullptr);
-		Actor->MarkPackageDirty();
+		GEditor->EndTransaction();
 		SelectOnly({Actor});
 		return {{"name", FEngineText::ForDisplay(Actor->GetFName())}};
 	}

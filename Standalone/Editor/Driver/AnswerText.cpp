@@ -2,6 +2,7 @@
 #include "Driver/AnswerText.h"
 
 #include "EngineText.h"
+#include "Standalone/StyleInspector.h"
 #include "Textures/SlateIcon.h"
 
 void FAnswerText::Add(FAnswer& Answer, const std::string& Name, const FText& Text)
@@ -29,4 +30,11 @@ FAnswer FAnswerText::Icon(const FSlateIcon& Icon)
 FAnswer FAnswerText::Icon(const FName& Style, const FName& Brush)
 {
 	return {{"style", FEngineText::ForDisplay(Style)}, {"brush", FEngineText::ForDisplay(Brush)}};
+}
+
+FAnswer FAnswerText::Icon(const FSlateBrush* Brush)
+{
+	FName Style;
+	FName Key;
+	return FStyleInspector::FindBrush(Brush, Style, Key) ? FAnswerText::Icon(Style, Key) : FAnswer(nullptr);
 }

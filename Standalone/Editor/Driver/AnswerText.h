@@ -5,6 +5,7 @@
 
 #include "CoreMinimal.h"
 
+struct FSlateBrush;
 struct FSlateIcon;
 
 /** Texts and pictures of the editor as answers show them. */
@@ -20,4 +21,6 @@ public:
 	/** @return style set and brush in the letters in which they were written, or null for no icon. */
 	static FAnswer Icon(const FSlateIcon& Icon);
 	static FAnswer Icon(const FName& Style, const FName& Brush);
+	/** @return the same of a brush by where it is registered; null also for one that no registered style has. */
+	static FAnswer Icon(const FSlateBrush* Brush);
 };

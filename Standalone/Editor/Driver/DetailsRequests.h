@@ -3,7 +3,7 @@
 
 #include "Driver/RequestTable.h"
 
-/** Requests about details panels and the undo history, neither of which this build has: each answers so. */
+/** Requests about the details panel of what is selected. */
 struct FDetailsRequests
 {
 	static std::vector<FRequestDefinition> GetAll();

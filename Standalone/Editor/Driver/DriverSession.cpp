@@ -2,6 +2,7 @@
 #include "Driver/DriverSession.h"
 
 #include "Driver/OutsideRecorder.h"
+#include "Framework/Application/SlateApplication.h"
 
 namespace
 {
@@ -14,11 +15,17 @@ FDriverSession::~FDriverSession() = default;
 
 bool FDriverSession::Start(const FStandaloneEditorOptions& Options, std::string& OutError)
 {
-	return Editor.Start(Options, OutError);
+	if (!Editor.Start(Options, OutError))
+	{
+		return false;
+	}
+	FSlateApplication::Get().SetCurrentTime(Time);
+	return true;
 }
 
 void FDriverSession::Tick()
 {
+	FSlateApplication::Get().SetCurrentTime(Time);
 	Editor.Tick();
 	Time += SecondsPerFrame;
 }

@@ -29,7 +29,7 @@ public:
 	FStandaloneEditor& GetEditor() { return Editor; }
 	FOutsideRecorder& GetOutside() { return *Outside; }
 
-	/** What follows each request: the editor does what is due and time moves on by one frame. */
+	/** What follows each request: the editor does what is due by now, then time moves on by one frame. */
 	void Tick();
 	/** Turns the clock, in seconds. */
 	void Advance(double Seconds);

@@ -14,7 +14,7 @@
 #include "Driver/DriverSession.h"
 #include "Driver/RequestTable.h"
 
-int FDriverWorker::Run()
+int FDriverWorker::Run(const FDriveOptions& Options)
 {
 	// A front that is killed takes the worker along, whatever that is busy with.
 	::prctl(PR_SET_PDEATHSIG, SIGKILL);
@@ -22,8 +22,10 @@ int FDriverWorker::Run()
 	// The front keeps the limit.
 	FLineReader Requests{FDescriptor(STDIN_FILENO), std::numeric_limits<size_t>::max()};
 	FDriverSession Session;
+	FStandaloneEditorOptions EditorOptions;
+	EditorOptions.SavedDir = Options.SavedDir.value_or(std::string());
 	std::string Error;
-	if (!Session.Start(FStandaloneEditorOptions(), Error))
+	if (!Session.Start(EditorOptions, Error))
 	{
 		FStandardOutput::WriteError(Error);
 		return static_cast<int>(EExitStatus::BadInput);

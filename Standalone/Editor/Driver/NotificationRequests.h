@@ -3,7 +3,7 @@
 
 #include "Driver/RequestTable.h"
 
-/** Requests about notifications and what they come from, neither of which this build has: each answers so. */
+/** Requests about notifications, and the release announcement that the plugin answers with one. */
 struct FNotificationRequests
 {
 	static std::vector<FRequestDefinition> GetAll();

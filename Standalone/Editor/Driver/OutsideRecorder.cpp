@@ -4,6 +4,7 @@
 #include "Engine/Level.h"
 #include "Misc/CoreDelegates.h"
 #include "Misc/MessageDialog.h"
+#include "SaveGameFolder.h"
 #include "StandaloneEditorEvents.h"
 
 FOutsideRecorder::FOutsideRecorder()
@@ -15,10 +16,12 @@ FOutsideRecorder::FOutsideRecorder()
 	FStandaloneEditorEvents::Redraw.AddRaw(this, &FOutsideRecorder::OnRedraw);
 	FStandaloneEditorEvents::ContentSync.AddRaw(this, &FOutsideRecorder::OnContentSync);
 	ULevel::LevelDirtiedEvent.AddRaw(this, &FOutsideRecorder::OnLevelDirtied);
+	FSaveGameFolder::OnSaved().AddRaw(this, &FOutsideRecorder::OnSaved);
 }
 
 FOutsideRecorder::~FOutsideRecorder()
 {
+	FSaveGameFolder::OnSaved().RemoveAll(this);
 	ULevel::LevelDirtiedEvent.RemoveAll(this);
 	FStandaloneEditorEvents::ContentSync.RemoveAll(this);
 	FStandaloneEditorEvents::Redraw.RemoveAll(this);

@@ -35,6 +35,7 @@ public:
 	int32 GetRedraws() const { return Redraws; }
 	int32 GetContentSyncs() const { return ContentSyncs; }
 	int32 GetLevelsDirtied() const { return LevelsDirtied; }
+	int32 GetSaves() const { return Saves; }
 
 private:
 	EAppReturnType::Type OnMessage(EAppMsgType::Type Kind, const FText& Text, const FText& Title);
@@ -43,6 +44,7 @@ private:
 	void OnRedraw(bool) { ++Redraws; }
 	void OnContentSync(const TArray<UObject*>&, bool) { ++ContentSyncs; }
 	void OnLevelDirtied() { ++LevelsDirtied; }
+	void OnSaved() { ++Saves; }
 
 	std::vector<FString> Addresses;
 	std::vector<FMessage> Messages;
@@ -50,4 +52,5 @@ private:
 	int32 Redraws = 0;
 	int32 ContentSyncs = 0;
 	int32 LevelsDirtied = 0;
+	int32 Saves = 0;
 };

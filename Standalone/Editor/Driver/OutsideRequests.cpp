@@ -61,8 +61,9 @@ namespace
 			{"messages", DescribeMessages(Outside)},
 			{"telemetry", {{"wizardOpened", ZAVTelemetry::GetWizardEditorOpenedCount()}}},
 			{"ensures", DescribeEnsures(Outside)},
-			// There are no save games that could be saved.
-			{"counts", {{"redraws", Outside.GetRedraws()}, {"contentSyncs", Outside.GetContentSyncs()}, {"saves", 0}}}};
+			{"counts",
+				{{"redraws", Outside.GetRedraws()}, {"contentSyncs", Outside.GetContentSyncs()},
+					{"saves", Outside.GetSaves()}}}};
 	}
 }
 

@@ -6,6 +6,7 @@
 #include "Framework/Commands/InputBindingManager.h"
 #include "Framework/Docking/TabManager.h"
 #include "IPlacementModeModule.h"
+#include "PropertyEditorModule.h"
 #include "Standalone/StyleInspector.h"
 #include "Standalone/ToolMenusStartup.h"
 
@@ -59,12 +60,23 @@ namespace
 		return SortNames(Handles);
 	}
 
+	FAnswer ListLayouts()
+	{
+		TArray<FName> Properties;
+		TArray<FName> Classes;
+		if (const auto* Module = FModuleManager::GetModulePtr<FPropertyEditorModule>("PropertyEditor"))
+		{
+			Properties = Module->GetCustomPropertyTypeLayoutNames();
+			Classes = Module->GetCustomClassLayoutNames();
+		}
+		return {{"properties", SortNames(Properties)}, {"classes", SortNames(Classes)}};
+	}
+
 	FAnswer ListRegistered(FDriverSession&, const FRequest&)
 	{
 		return {{"styles", SortNames(FStyleInspector::GetStyleSetNames())},
 			{"tabs", SortNames(FGlobalTabmanager::Get()->GetTabSpawnerNames())}, {"commands", ListCommands()},
-			// There are no details panels that could be given layouts, and no sessions that could be lost.
-			{"layouts", {{"properties", FAnswer::array()}, {"classes", FAnswer::array()}}},
+			{"layouts", ListLayouts()},
 			{"placement", ListPlacement()}, {"menuOwners", FToolMenusStartup::GetOwnerCount()},
 			{"startupCallbacks", FToolMenusStartup::GetStartupCallbackCount()},
 			{"upgradeHandlers", AuthDelegates::OnUpgradeAvailable.GetBindingCount()}, {"lostStateHandlers", 0}};

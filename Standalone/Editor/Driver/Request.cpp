@@ -203,6 +203,11 @@ bool FRequest::IsNull(const char* Name) const
 	return Get(Name).is_null();
 }
 
+bool FRequest::IsText(const char* Name) const
+{
+	return Get(Name).is_string();
+}
+
 std::vector<int32> FRequest::GetWorlds(const char* Name) const
 {
 	std::vector<int32> Worlds;

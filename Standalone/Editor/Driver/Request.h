@@ -69,6 +69,9 @@ public:
 	/** A vector's numbers as pitch, yaw and roll in degrees. */
 	FRotator GetRotator(const char* Name) const;
 	bool IsNull(const char* Name) const;
+	bool IsText(const char* Name) const;
+	/** A text, a number, true or false. */
+	const nlohmann::json& GetValue(const char* Name) const { return Get(Name); }
 	/** The worlds of a list of clients. */
 	std::vector<int32> GetWorlds(const char* Name) const;
 

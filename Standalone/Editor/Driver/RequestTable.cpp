@@ -19,6 +19,7 @@
 #include "Driver/SenderRequests.h"
 #include "Driver/SessionRequests.h"
 #include "Driver/TabRequests.h"
+#include "Driver/UndoRequests.h"
 #include "Driver/WidgetRequests.h"
 
 using nlohmann::json;
@@ -47,7 +48,7 @@ namespace
 		for (const auto GetSubject :
 			{FLevelRequests::GetAll, FActorRequests::GetAll, FTabRequests::GetAll, FWidgetRequests::GetAll,
 				FInputRequests::GetAll, FWidgetRequests::GetGeometry, FMenuRequests::GetAll, FPlacementRequests::GetAll,
-				FDetailsRequests::GetAll, FSenderRequests::GetAll, FNotificationRequests::GetAll,
+				FDetailsRequests::GetAll, FUndoRequests::GetAll, FSenderRequests::GetAll, FNotificationRequests::GetAll,
 				FOutsideRequests::GetAll, FRegisteredRequests::GetAll, FSessionRequests::GetAll})
 		{
 			const std::vector<FRequestDefinition> Subject = GetSubject();

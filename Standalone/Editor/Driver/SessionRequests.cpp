@@ -40,7 +40,7 @@ namespace
 		}
 	}
 
-	void UnloadModule(const FString& Module)
+	void UnloadModule(FDriverSession& Session, const FString& Module)
 	{
 		if (!FModuleManager::Get().IsModuleLoaded(*Module))
 		{
@@ -51,11 +51,11 @@ namespace
 		{
 			throw FRequestError(QuoteModule(Module) + " keeps the list of the level's assets: make a new level first");
 		}
-		FStandaloneEditor::CloseTabs();
+		Session.GetEditor().ClosePanels();
 		FModuleManager::Get().UnloadModule(*Module);
 	}
 
-	FAnswer ChangeModule(FDriverSession&, const FRequest& Request)
+	FAnswer ChangeModule(FDriverSession& Session, const FRequest& Request)
 	{
 		const FString Module = Request.GetText("name");
 		const std::string Action = Request.GetUtf8("action");
@@ -64,7 +64,7 @@ namespace
 			throw FRequestError("parameter \"action\": \"load\" or \"unload\" is wanted");
 		}
 		CheckModule(Module);
-		Action == "load" ? LoadModule(Module) : UnloadModule(Module);
+		Action == "load" ? LoadModule(Module) : UnloadModule(Session, Module);
 		return FAnswer();
 	}
 
@@ -80,7 +80,7 @@ namespace
 			Session.RequestRestart();
 			return FAnswer();
 		}
-		UnloadModule(EditorModule);
+		UnloadModule(Session, EditorModule);
 		FModuleManager::Get().LoadModuleChecked(EditorModule);
 		return FAnswer();
 	}

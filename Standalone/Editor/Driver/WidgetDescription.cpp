@@ -7,7 +7,6 @@
 
 #include "Driver/AnswerText.h"
 #include "EngineText.h"
-#include "Standalone/StyleInspector.h"
 #include "Standalone/TextFormatInspector.h"
 #include "Types/SlateStructs.h"
 #include "Widgets/Images/SImage.h"
@@ -94,14 +93,10 @@ namespace
 		return Colour.IsColorSpecified() ? Numbers({Value.R, Value.G, Value.B, Value.A}) : FAnswer(nullptr);
 	}
 
-	/** A brush that is in no registered style has no name to answer with. */
 	FAnswer DescribeImage(const SWidget& Widget)
 	{
 		const SImage* Image = CastTo<SImage>(Widget, "SImage");
-		FName Style;
-		FName Brush;
-		const bool bNamed = Image && FStyleInspector::FindBrush(Image->GetImage(), Style, Brush);
-		return bNamed ? FAnswerText::Icon(Style, Brush) : FAnswer(nullptr);
+		return Image ? FAnswerText::Icon(Image->GetImage()) : FAnswer(nullptr);
 	}
 
 	const char* DescribeVisibility(const SWidget& Widget)

@@ -5,6 +5,8 @@
 #include "HAL/PlatformProcess.h"
 #include "Misc/CoreDelegates.h"
 #include "Misc/MessageDialog.h"
+#include "SaveGameFolder.h"
+#include "TemporaryFolder.h"
 #include "ZAVSpoutNames.h"
 #include "ZAVTelemetry.h"
 
@@ -64,6 +66,16 @@ TEST_F(FOutsideRequestsTest, CountsWhatTheEditorIsAskedFor)
 	TArray<UObject*> Objects;
 	GEditor->SyncBrowserToObjects(Objects, false);
 	EXPECT_EQ(GetOutside("counts").dump(), "{\"redraws\":2,\"contentSyncs\":1,\"saves\":0}");
+}
+
+TEST_F(FOutsideRequestsTest, CountsTheSaveGamesThatWereWritten)
+{
+	const FTemporaryFolder Folder;
+	FSaveGameFolder SaveGames(Folder.File(""));
+	EXPECT_TRUE(SaveGames.SaveGame(false, TEXT("Slot"), 0, {1}));
+	EXPECT_FALSE(SaveGames.SaveGame(false, TEXT(".."), 0, {1}));
+	EXPECT_TRUE(SaveGames.SaveGame(false, TEXT("Slot"), 0, {1}));
+	EXPECT_EQ(GetOutside("counts")["saves"], 2);
 }
 
 TEST_F(FOutsideRequestsTest, ReadsThePluginsTelemetry)

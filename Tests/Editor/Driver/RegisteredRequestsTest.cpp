@@ -25,12 +25,12 @@ TEST_F(FRegisteredRequestsTest, ShowsWhatThePluginRegistered)
 	EXPECT_EQ(Registered["startupCallbacks"], 0);
 }
 
-TEST_F(FRegisteredRequestsTest, ShowsNothingOfAModuleThatIsUnloaded)
+TEST_F(FRegisteredRequestsTest, ShowsNothingButTheLayoutsOfAModuleThatIsUnloaded)
 {
 	Ask({{"do", "module"}, {"name", "QuillonEditor"}, {"action", "unload"}});
 	EXPECT_EQ(GetRegistered().dump(),
 		"{\"do\":\"registered\",\"ok\":true,\"styles\":[],\"tabs\":[],\"commands\":{},"
-		"\"layouts\":{\"properties\":[],\"classes\":[]},\"placement\":[\"AllClasses\",\"Basic\"],\"menuOwners\":0,"
+		"\"layouts\":{\"properties\":[\"ZAVSpoutReceiverInterface\"],\"classes\":[\"ZAVCaptureComponent\"]},\"placement\":[\"AllClasses\",\"Basic\"],\"menuOwners\":0,"
 		"\"startupCallbacks\":0,\"upgradeHandlers\":0,\"lostStateHandlers\":0}");
 }
 
