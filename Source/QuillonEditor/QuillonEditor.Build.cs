@@ -20,10 +20,12 @@ public class QuillonEditor : ModuleRules
 		{
 			"InputCore",
 			"Projects",
+			"EditorStyle",
 			"ToolMenus",
 			"UnrealEd",
 			"AssetTools",
 			"AssetRegistry",
+			"PropertyEditor",
 			"PlacementMode",
 			"Quillon",
 			"USpout",

@@ -11,10 +11,13 @@
 #include "Framework/Commands/InputBindingManager.h"
 #include "Framework/Docking/TabManager.h"
 #include "IPlacementModeModule.h"
+#include "IPropertyRowGenerator.h"
 #include "Modules/ModuleManager.h"
+#include "PropertyEditorModule.h"
 #include "Standalone/ToolMenusStartup.h"
 #include "Styling/SlateStyleRegistry.h"
 #include "ToolMenus.h"
+#include "UObject/Class.h"
 #include "UObject/UObjectGlobals.h"
 #include "Widgets/Docking/SDockTab.h"
 #include "Widgets/SNullWidget.h"
@@ -89,6 +92,8 @@ TEST_F(FModuleHosts, ReceivesWhatTheModuleRegisters)
 	EXPECT_TRUE(Contains(Registered["placement"], "Corvane"));
 	ASSERT_TRUE(Registered["commands"].contains("QuillonEditor"));
 	EXPECT_EQ(Registered["commands"]["QuillonEditor"].size(), 8U);
+	EXPECT_EQ(Registered["layouts"]["properties"], json({"ZAVSpoutReceiverInterface"}));
+	EXPECT_EQ(Registered["layouts"]["classes"], json({"ZAVCaptureComponent"}));
 	EXPECT_EQ(Registered["menuOwners"], 1);
 	EXPECT_EQ(Registered["startupCallbacks"], 0);
 }
@@ -104,6 +109,30 @@ TEST_F(FModuleHosts, AreLeftCleanAtShutDown)
 	EXPECT_EQ(Registered["menuOwners"], 0);
 	EXPECT_EQ(Registered["startupCallbacks"], 0);
 	EXPECT_EQ(Ask("toolbar")["buttons"].size(), 0U);
+}
+
+TEST_F(FModuleHosts, KeepTheDetailsLayoutsAfterShutDown)
+{
+	const json Before = Ask("registered")["layouts"];
+	Module("unload");
+	EXPECT_EQ(Ask("registered")["layouts"], Before);
+	const TSharedRef<IPropertyRowGenerator> Panel =
+		FModuleManager::LoadModuleChecked<FPropertyEditorModule>("PropertyEditor")
+			.CreatePropertyRowGenerator(FPropertyRowGeneratorArgs());
+	Panel->SetObjects({FindObject<UClass>(ANY_PACKAGE, TEXT("ZAVSpoutReceiverManager"))->GetDefaultObject()});
+	EXPECT_EQ(Panel->GetRootTreeNodes().Num(), 1) << "whose factories are still good";
+}
+
+TEST_F(FModuleHosts, ShowDetailsThatAreOpenInTheNewLayouts)
+{
+	Module("unload");
+	const TSharedRef<IPropertyRowGenerator> Panel =
+		FModuleManager::LoadModuleChecked<FPropertyEditorModule>("PropertyEditor")
+			.CreatePropertyRowGenerator(FPropertyRowGeneratorArgs());
+	int Refreshed = 0;
+	Panel->OnRowsRefreshed().AddLambda([&Refreshed] { ++Refreshed; });
+	Module("load");
+	EXPECT_EQ(Refreshed, 1);
 }
 
 TEST_F(FModuleHosts, ComeBackToWhereTheyWereAfterAHundredStarts)
@@ -158,6 +187,25 @@ TEST_F(FModuleHosts, GetTheTabBeforeTheCommands)
 			FModuleManager::Get().LoadModule("QuillonEditor");
 		},
 		::testing::ExitedWithCode(3), "Tab spawner 'CineStreamWizard'");
+}
+
+TEST_F(FModuleHosts, GetTheDetailsLayoutsAfterTheMenusAndBeforeThePlacementCategory)
+{
+	Module("unload");
+	Module("unload", "PropertyEditor");
+	EXPECT_EXIT(
+		{
+			FModuleManager::Get().RegisterStaticallyLinkedModule("PropertyEditor",
+				FInitializeStaticallyLinkedModule::CreateLambda(
+					[this]() -> IModuleInterface*
+					{
+						const FSeen Seen = FSeen::Look();
+						const bool bButton = Ask("toolbar")["buttons"].size() == 1;
+						std::_Exit(Seen.HasAll() && bButton && !Seen.bCategory ? 0 : 1);
+					}));
+			FModuleManager::Get().LoadModule("QuillonEditor");
+		},
+		::testing::ExitedWithCode(0), "");
 }
 
 TEST_F(FModuleHosts, GetThePlacementCategoryLast)
@@ -241,6 +289,19 @@ TEST_F(FModuleHosts, WithoutPlacementModeStartIsFatal)
 			FModuleManager::Get().LoadModule("QuillonEditor");
 		},
 		::testing::ExitedWithCode(3), "PlacementMode");
+}
+
+TEST_F(FModuleHosts, WithoutPropertyEditorStartIsFatal)
+{
+	Module("unload");
+	Module("unload", "PropertyEditor");
+	EXPECT_EXIT(
+		{
+			FModuleManager::Get().RegisterStaticallyLinkedModule("PropertyEditor",
+				FInitializeStaticallyLinkedModule::CreateLambda([]() -> IModuleInterface* { return nullptr; }));
+			FModuleManager::Get().LoadModule("QuillonEditor");
+		},
+		::testing::ExitedWithCode(3), "PropertyEditor");
 }
 
 TEST_F(FModuleHosts, WithoutPlacementModeShutDownDoesAllTheRest)

@@ -4,8 +4,11 @@
 #include "Framework/Docking/TabManager.h"
 #include "IPlacementModeModule.h"
 #include "Modules/ModuleManager.h"
+#include "PropertyEditorModule.h"
 #include "ToolMenus.h"
 
+#include "DetailCustomisations/ActiveSenderNamesCustomisation.h"
+#include "DetailCustomisations/CaptureComponentDetailsCustomisation.h"
 #include "QuillonEditorCommands.h"
 #include "QuillonEditorStyle.h"
 #include "QuillonEditorWizardTab.h"
@@ -33,7 +36,10 @@ void FQuillonEditorModule::StartupModule()
 	UToolMenus::RegisterStartupCallback(
 		FSimpleMulticastDelegate::FDelegate::CreateRaw(this, &FQuillonEditorModule::RegisterMenus));
 
-	// 5. The category of the Place Actors panel.
+	// 5. Who lays out receivers and capture components in details panels.
+	RegisterDetailCustomisations();
+
+	// 6. The category of the Place Actors panel.
 	RegisterPlacementCategory();
 }
 
@@ -58,6 +64,20 @@ void FQuillonEditorModule::ShutdownModule()
 
 	// 5. The style set, last: whatever still showed one of its brushes is gone by now.
 	FQuillonEditorStyle::Shutdown();
+
+	// The details layouts stay registered. Their factories are plain functions, which the library keeps: a panel that
+	// is still open may ask for one, and the next start takes their place.
+}
+
+void FQuillonEditorModule::RegisterDetailCustomisations()
+{
+	FPropertyEditorModule& PropertyEditor = FModuleManager::LoadModuleChecked<FPropertyEditorModule>("PropertyEditor");
+	PropertyEditor.RegisterCustomPropertyTypeLayout("ZAVSpoutReceiverInterface",
+		FOnGetPropertyTypeCustomizationInstance::CreateStatic(&FActiveSenderNamesCustomisation::MakeInstance));
+	PropertyEditor.RegisterCustomClassLayout("ZAVCaptureComponent",
+		FOnGetDetailCustomizationInstance::CreateStatic(&FCaptureComponentDetailsCustomisation::MakeInstance));
+	// Panels that are open already are to show them.
+	PropertyEditor.NotifyCustomizationModuleChanged();
 }
 
 IMPLEMENT_MODULE(FQuillonEditorModule, QuillonEditor)

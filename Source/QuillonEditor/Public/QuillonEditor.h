@@ -64,6 +64,9 @@ private:
 	/** The menu below the toolbar button, made anew each time that it opens. */
 	TSharedRef<SWidget> GenerateMenuContent(TSharedPtr<FUICommandList> Commands);
 
+	/** Has the property editor lay out the plugin's receivers and capture components in the module's own way. */
+	void RegisterDetailCustomisations();
+
 	/** Adds the plugin's category to the Place Actors panel, or takes the one that is there, and fills it. */
 	void RegisterPlacementCategory();
 

@@ -1,0 +1,2 @@
+// Copyright Corvane. MIT License.
+#include "ExtendedCaptureComponent.h"
