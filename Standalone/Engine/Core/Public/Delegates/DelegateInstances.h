@@ -1,6 +1,7 @@
 // Copyright Corvane. MIT License.
 #pragma once
 
+#include "Standalone/BindingCounts.h"
 #include "Templates/SharedPointer.h"
 
 #include <tuple>
@@ -42,7 +43,7 @@ namespace DelegateInstances
 	};
 
 	template <typename CalleeType, typename Tuple, typename Ret, typename... ParamTypes>
-	class TCallableInstance : public TInstance<Ret, ParamTypes...>
+	class TCallableInstance : public TInstance<Ret, ParamTypes...>, private TCountedBinding<CalleeType>
 	{
 	public:
 		TCallableInstance(const void* InUserObject, CalleeType InCallee, Tuple InPayload)
