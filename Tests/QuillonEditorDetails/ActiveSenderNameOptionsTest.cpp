@@ -120,6 +120,26 @@ TEST_F(FSenderOptions, TellNamesApartByLetterCase)
 	EXPECT_EQ(Refresh({TEXT("cam")}, TEXT("cam")), "Use first available sender; cam; ");
 }
 
+TEST_F(FSenderOptions, SeeThatOneSenderWasReplacedByAnother)
+{
+	Refresh({TEXT("A")}, TEXT("A"));
+	EXPECT_EQ(Refresh({TEXT("B")}, TEXT("A")), "Use first available sender; A; B; ");
+	EXPECT_EQ(Told, "lost ");
+	EXPECT_EQ(Refresh({TEXT("C")}, TEXT("A")), "Use first available sender; A; C; ");
+	EXPECT_EQ(Refresh({TEXT("A")}, TEXT("A")), "Use first available sender; A; ");
+	EXPECT_EQ(Told, "found ");
+}
+
+TEST_F(FSenderOptions, ListASenderAgainWhoseOptionWasMadeAnotherOne)
+{
+	Refresh({TEXT("A"), TEXT("B")}, TEXT("A"));
+	*Options.Options[2] = TEXT("A");
+	EXPECT_EQ(RefreshAgain(TEXT("A")), "Use first available sender; A; A; B; ") << "both are called like a sender";
+	Options.Options.RemoveAt(1);
+	*Options.Options[1] = TEXT("C");
+	EXPECT_EQ(RefreshAgain(TEXT("A")), "Use first available sender; B; A; ");
+}
+
 TEST_F(FSenderOptions, ListANameOnceThoughTwoSendersHaveIt)
 {
 	EXPECT_EQ(Refresh({TEXT("A"), TEXT("A"), TEXT("B"), TEXT("A")}, TEXT("B")), "Use first available sender; A; B; ");

@@ -168,10 +168,10 @@ bool FActiveSenderNameOptions::IsUpToDate(
 	if (CurrentOption > 0)
 	{
 		OutCurrentIsActive = NameOfOption[CurrentOption - 1] != INDEX_NONE;
-		return true;
 	}
-	// The first entry's text: not to be listed as a name, but a sender may be called like that.
-	OutCurrentIsActive =
+	// The first entry's text is not to be listed as a name, but a sender may be called like that; and a string that was
+	// changed may have become what a sender is called.
+	OutCurrentIsActive = OutCurrentIsActive ||
 		Names.ContainsByPredicate([&CurrentName](const FString& Name) { return IsSameName(Name, CurrentName); });
-	return IsSameName(CurrentName, FirstAvailableOption);
+	return CurrentOption > 0 || IsSameName(CurrentName, FirstAvailableOption);
 }

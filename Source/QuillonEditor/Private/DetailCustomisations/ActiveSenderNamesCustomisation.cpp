@@ -21,12 +21,15 @@ namespace
 	{
 		FStoredSender(const IPropertyHandle& NameHandle, const IPropertyHandle& UseFirstAvailableSenderHandle)
 		{
-			NameHandle.GetValue(Name);
-			UseFirstAvailableSenderHandle.GetValue(bUseFirstAvailable);
+			const FPropertyAccess::Result NameResult = NameHandle.GetValue(Name);
+			const FPropertyAccess::Result UseFirstResult = UseFirstAvailableSenderHandle.GetValue(bUseFirstAvailable);
+			bIsCommon = NameResult == FPropertyAccess::Success && UseFirstResult == FPropertyAccess::Success;
 		}
 
 		FString Name;
 		bool bUseFirstAvailable = true;
+		/** Whether both values are those of all edited receivers. */
+		bool bIsCommon;
 	};
 }
 
@@ -123,6 +126,7 @@ void FActiveSenderNamesCustomisation::AddNameRow(
 			.OptionsSource(&FActiveSenderNameOptions::Get().Options)
 			.OnGenerateWidget(this, &FActiveSenderNamesCustomisation::OnGenerateOptionWidget)
 			.OnSelectionChanged(this, &FActiveSenderNamesCustomisation::OnOptionSelectionChanged)
+			.OnComboBoxOpening(this, &FActiveSenderNamesCustomisation::HandleComboBoxOpening)
 			.InitiallySelectedItem(InitialItem)
 			.ContentPadding(FMargin(2.0f))
 			[
@@ -188,6 +192,20 @@ TSharedRef<SWidget> FActiveSenderNamesCustomisation::OnGenerateOptionWidget(TSha
 	return SNew(STextBlock)
 		.Text(FText::FromString(*Item))
 		.Font(FEditorStyle::GetFontStyle("PropertyWindow.NormalFont"));
+}
+
+void FActiveSenderNamesCustomisation::HandleComboBoxOpening()
+{
+	// The value may have become another one since the last choice, by an undo say. The drop-down would take the choice
+	// of what it still has selected for none at all. Nothing selected is told to nobody but OnOptionSelectionChanged.
+	const FStoredSender Stored(*NameHandle, *UseFirstAvailableSenderHandle);
+	const FString& Shown =
+		Stored.bUseFirstAvailable ? FActiveSenderNameOptions::Get().FirstAvailableOption : Stored.Name;
+	const TSharedPtr<FString> Selected = SenderComboBox->GetSelectedItem();
+	if (Selected.IsValid() && !(Stored.bIsCommon && Selected->Equals(Shown, ESearchCase::CaseSensitive)))
+	{
+		SenderComboBox->ClearSelection();
+	}
 }
 
 void FActiveSenderNamesCustomisation::OnOptionSelectionChanged(

@@ -50,6 +50,8 @@ private:
 	void SetSelection(FString NewValue);
 
 	TSharedRef<SWidget> OnGenerateOptionWidget(TSharedPtr<FString> Item);
+	/** Lets go of a selection that is no longer what is stored, so that it can be chosen again. */
+	void HandleComboBoxOpening();
 	void OnOptionSelectionChanged(TSharedPtr<FString> NewItem, ESelectInfo::Type SelectInfo);
 
 	TSharedPtr<IPropertyHandle> NameHandle;

@@ -1,6 +1,7 @@
 // Copyright Corvane. MIT License.
 #include "DetailCustomisations/CaptureComponentDetailsCustomisation.h"
 
+#include "Components/SceneCaptureComponent.h"
 #include "DetailCategoryBuilder.h"
 #include "DetailLayoutBuilder.h"
 #include "DetailWidgetRow.h"
@@ -8,6 +9,7 @@
 #include "PropertyHandle.h"
 #include "ShowFlags.h"
 #include "Templates/Casts.h"
+#include "UObject/UnrealType.h"
 #include "Widgets/Input/SCheckBox.h"
 #include "Widgets/Text/STextBlock.h"
 
