@@ -29,10 +29,8 @@ namespace
 		TArray<UActorComponent*> Components;
 		Actor->GetComponents(Components);
 		UActorComponent** Found = Components.FindByPredicate(
-			[Component](const UActorComponent* Candidate)
-			{
-				return Candidate->GetFName() == Component->GetFName() &&
-					Candidate->GetClass() == Component->GetClass();
+			[Component](const UActorComponent* Candidate) {
+				return Candidate->GetFName() == Component->GetFName() && Candidate->GetClass() == Component->GetClass();
 			});
 		return Found ? *Found : nullptr;
 	}
@@ -167,8 +165,8 @@ void FDetailsPanel::ReadNodes(const TArray<TSharedRef<IDetailTreeNode>>& Nodes, 
 		}
 		FDetailsRow Row(Nodes[Index]);
 		// A property's row is the same wherever it stands; any other one has nothing but its place.
-		const std::string Own = Place + "/" +
-			(Row.Path.IsEmpty() ? std::to_string(Index) : FEngineText::ForDisplay(Row.Path));
+		const std::string Own =
+			Place + "/" + (Row.Path.IsEmpty() ? std::to_string(Index) : FEngineText::ForDisplay(Row.Path));
 		Row.Id = GetId(Own);
 		Row.bAdvanced = Nodes[Index]->IsAdvanced() || (Above && Above->bAdvanced);
 		if (Above)

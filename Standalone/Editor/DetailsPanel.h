@@ -38,6 +38,9 @@ public:
 	/** The rows as they are now; good until the next call of any function. */
 	const std::vector<FCategory>& GetCategories();
 
+	/** Whether the rows have been looked at since the selection changed. */
+	bool IsBuilt() const { return bBuilt; }
+
 	/** Forgets all rows and what holds them; they are built anew when next looked at. */
 	void Close();
 

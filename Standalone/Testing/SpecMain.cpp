@@ -3,6 +3,7 @@
 // each It as one GoogleTest case.
 #include "AutomationBridge.h"
 #include "StandaloneEditor.h"
+#include "TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -13,6 +14,8 @@ int main(int ArgumentCount, char** Arguments)
 	::testing::InitGoogleTest(&ArgumentCount, Arguments);
 	FStandaloneEditorOptions Options;
 	Options.ModuleDir = QUILLON_SPEC_MODULE_DIR;
+	const FTemporaryFolder Saved;
+	Options.SavedDir = Saved.File("");
 	FStandaloneEditor Editor;
 	std::string Error;
 	if (!Editor.Start(Options, Error))

@@ -171,7 +171,8 @@ void FDetailsEdits::Pick(const FDetailsRow& Row, const FString& Option)
 	const auto Count = std::count_if(Options.begin(), Options.end(), IsWanted);
 	if (Count != 1)
 	{
-		throw FRequestError(QuoteName(Row) + " has " + (Count == 0 ? "no option " : "several options ") + Quote(Option));
+		throw FRequestError(
+			QuoteName(Row) + " has " + (Count == 0 ? "no option " : "several options ") + Quote(Option));
 	}
 	List.Choose(static_cast<int32>(std::find_if(Options.begin(), Options.end(), IsWanted) - Options.begin()));
 }

@@ -18,6 +18,6 @@ public:
 	static void Pick(const FDetailsRow& Row, const FString& Option);
 	static void Pick(const FDetailsRow& Row, int32 Option);
 
-	/** Presses the check box until it shows the state. */
+	/** Presses the check box if it does not show the state, and once more if it then shows the other one. */
 	static void Tick(const FDetailsRow& Row, bool bChecked);
 };

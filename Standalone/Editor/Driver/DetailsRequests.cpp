@@ -64,9 +64,19 @@ namespace
 									 : std::to_string(Request.GetIndex("row"));
 	}
 
+	/** Nobody reaches for a row without having seen it: what is shown is what there is to pick from. */
+	void LookOnce(FDriverSession& Session, const FRequest& Request)
+	{
+		if (!Session.GetEditor().GetDetails().IsBuilt())
+		{
+			ListDetails(Session, Request);
+		}
+	}
+
 	/** A copy: the panel may build its rows anew while the row is being changed. */
 	FDetailsRow FindRow(FDriverSession& Session, const FRequest& Request)
 	{
+		LookOnce(Session, Request);
 		std::vector<FDetailsRow> Found =
 			FindRows(Session, Request, Request.IsText("row") ? ECall::Path : ECall::Number);
 		if (Found.empty() && Request.IsText("row"))

@@ -54,8 +54,8 @@ namespace
 				Answer["value"] = ReadNumber(*Row.Value, Result);
 				break;
 			case EKind::Object:
-				Answer["value"] =
-					Read<UObject*>(*Row.Value, Result, [](const UObject* Object) { return FObjectText::Describe(Object); });
+				Answer["value"] = Read<UObject*>(
+					*Row.Value, Result, [](const UObject* Object) { return FObjectText::Describe(Object); });
 				break;
 			default:
 				Answer["value"] = ReadText(*Row.Value, Result);

@@ -7,6 +7,7 @@
 #include "Framework/Docking/TabManager.h"
 #include "IPlacementModeModule.h"
 #include "PropertyEditorModule.h"
+#include "Standalone/BindingCounts.h"
 #include "Standalone/StyleInspector.h"
 #include "Standalone/ToolMenusStartup.h"
 
@@ -76,10 +77,12 @@ namespace
 	{
 		return {{"styles", SortNames(FStyleInspector::GetStyleSetNames())},
 			{"tabs", SortNames(FGlobalTabmanager::Get()->GetTabSpawnerNames())}, {"commands", ListCommands()},
-			{"layouts", ListLayouts()},
-			{"placement", ListPlacement()}, {"menuOwners", FToolMenusStartup::GetOwnerCount()},
+			{"layouts", ListLayouts()}, {"placement", ListPlacement()},
+			{"menuOwners", FToolMenusStartup::GetOwnerCount()},
 			{"startupCallbacks", FToolMenusStartup::GetStartupCallbackCount()},
-			{"upgradeHandlers", AuthDelegates::OnUpgradeAvailable.GetBindingCount()}, {"lostStateHandlers", 0}};
+			{"upgradeHandlers", AuthDelegates::OnUpgradeAvailable.GetBindingCount()},
+			// The event is the plugin's own affair; what is bound to it is known all the same.
+			{"lostStateHandlers", FBindingCounts::Count("void (FActiveSenderNamesCustomisation::*)(bool)")}};
 	}
 }
 

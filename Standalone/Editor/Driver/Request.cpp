@@ -140,7 +140,11 @@ std::string FParameter::Check(const json& Json) const
 		case EParameterType::Vector:
 			return CheckVector(Json);
 		case EParameterType::Value:
-			return Json.is_boolean() || Json.is_number() ? "" : CheckText(Json);
+			if (!Json.is_boolean() && !Json.is_number() && !Json.is_string())
+			{
+				return "a text, a number, true or false is wanted";
+			}
+			return Json.is_string() ? CheckText(Json) : "";
 		default:
 			return CheckClients(Json);
 	}

@@ -124,9 +124,9 @@ TEST_F(FDetailsRequestsTest, RefusesWhatARowCannotHold)
 	EXPECT_EQ(RefuseSet("Texture", "/Game/Other"), "there is no object \"/Game/Other\"");
 	EXPECT_EQ(RefuseSet("Inner.Target", "/Game/Screen"), "\"/Game/Screen\" is no Actor");
 	EXPECT_EQ(RefuseSet("Inner", "x"), "row \"Inner\" has no value");
-	EXPECT_EQ(GetRefusal({{"do", "pick"}, {"row", "Number"}, {"option", 0}}), "row \"Number\" has nothing to pick from");
 	EXPECT_EQ(
-		GetRefusal({{"do", "tick"}, {"row", "Number"}, {"state", "checked"}}), "row \"Number\" has no check box");
+		GetRefusal({{"do", "pick"}, {"row", "Number"}, {"option", 0}}), "row \"Number\" has nothing to pick from");
+	EXPECT_EQ(GetRefusal({{"do", "tick"}, {"row", "Number"}, {"state", "checked"}}), "row \"Number\" has no check box");
 	EXPECT_EQ(GetRefusal({{"do", "tick"}, {"row", "bFlag"}, {"state", "perhaps"}}),
 		"parameter \"state\": \"checked\" or \"unchecked\" is wanted");
 }
@@ -239,4 +239,38 @@ TEST_F(FDetailsRequestsTest, ShowsNothingWithoutThePropertyEditor)
 	Ask({{"do", "select"}, {"actors", json::array()}});
 	SpawnSelected();
 	EXPECT_NE(GetCategories(), FAnswer::array());
+}
+
+TEST_F(FDetailsRequestsTest, LooksAtTheRowsBeforeItReachesForOne)
+{
+	Ask({{"do", "senders"}, {"names", {"A"}}});
+	Place("ZAVSpoutReceiverManager");
+	// The empty name that the receiver has at first is in the list only until somebody looks at it.
+	const FAnswer Refused = AskLine(R"({"do":"pick","row":"SpoutReceivers[0].Name","option":""})");
+	EXPECT_EQ(Refused["error"], "row \"Name\" has no option \"\"");
+	Ask({{"do", "pick"}, {"row", "SpoutReceivers[0].Name"}, {"option", "A"}});
+	EXPECT_EQ(GetRow("SpoutReceivers[0].Name")["value"], "A");
+}
+
+TEST_F(FDetailsRequestsTest, PicksAgainWhatWasUndone)
+{
+	Ask({{"do", "senders"}, {"names", {"A"}}});
+	Place("ZAVSpoutReceiverManager");
+	const json Pick = {{"do", "pick"}, {"row", "SpoutReceivers[0].Name"}, {"option", "A"}};
+	Ask(Pick);
+	EXPECT_EQ(GetRow("SpoutReceivers[0].Name")["value"], "A");
+	Ask({{"do", "undo"}});
+	Ask({{"do", "undo"}});
+	EXPECT_EQ(GetRow("SpoutReceivers[0].Name")["value"], "Use first available sender");
+	Ask(Pick);
+	EXPECT_EQ(GetRow("SpoutReceivers[0].Name")["value"], "A");
+}
+
+TEST_F(FDetailsRequestsTest, TellsWhatValuesItTakes)
+{
+	SpawnSelected();
+	for (const json& Value : {json(nullptr), json::array(), json::object()})
+	{
+		EXPECT_EQ(RefuseSet("Number", Value), "parameter \"value\": a text, a number, true or false is wanted");
+	}
 }

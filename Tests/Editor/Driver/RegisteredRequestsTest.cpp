@@ -49,3 +49,13 @@ TEST_F(FRegisteredRequestsTest, CountsUpgradeHandlers)
 	AuthDelegates::OnUpgradeAvailable.Remove(Handle);
 	EXPECT_EQ(GetRegistered()["upgradeHandlers"], Before);
 }
+
+TEST_F(FRegisteredRequestsTest, CountsTheReceiversWhoseSenderIsWatched)
+{
+	Place("ZAVSpoutReceiverManager");
+	EXPECT_EQ(GetRegistered()["lostStateHandlers"], 0);
+	Ask({{"do", "details"}});
+	EXPECT_EQ(GetRegistered()["lostStateHandlers"], 1);
+	Ask({{"do", "select"}, {"actors", nlohmann::json::array()}});
+	EXPECT_EQ(GetRegistered()["lostStateHandlers"], 0);
+}
