@@ -3,11 +3,13 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <dlfcn.h>
 #include <memory>
 
 #include "AllocationCount.h"
 #include "FileAccessRecorder.h"
 
+#include "AuthDelegates.h"
 #include "Framework/Commands/InputBindingManager.h"
 #include "Framework/Docking/TabManager.h"
 #include "IPlacementModeModule.h"
@@ -44,6 +46,7 @@ namespace
 				FInputBindingManager::Get().FindCommandInContext("QuillonEditor", "PluginVersion").IsValid();
 			Seen.bCategory = FModuleManager::Get().IsModuleLoaded("PlacementMode") &&
 				IPlacementModeModule::Get().GetRegisteredPlacementCategory("Corvane");
+			Seen.bHears = AuthDelegates::OnUpgradeAvailable.IsBound();
 			return Seen;
 		}
 		/** Looks once the last copy of what this returns is gone. */
@@ -63,6 +66,8 @@ namespace
 		bool bTab = false;
 		bool bCommands = false;
 		bool bCategory = false;
+		/** Announcements of releases. */
+		bool bHears = false;
 		int32 MenuOwners = -1;
 	};
 
@@ -96,6 +101,7 @@ TEST_F(FModuleHosts, ReceivesWhatTheModuleRegisters)
 	EXPECT_EQ(Registered["layouts"]["classes"], json({"ZAVCaptureComponent"}));
 	EXPECT_EQ(Registered["menuOwners"], 1);
 	EXPECT_EQ(Registered["startupCallbacks"], 0);
+	EXPECT_EQ(Registered["upgradeHandlers"], 1);
 }
 
 TEST_F(FModuleHosts, AreLeftCleanAtShutDown)
@@ -108,6 +114,7 @@ TEST_F(FModuleHosts, AreLeftCleanAtShutDown)
 	EXPECT_FALSE(Registered["commands"].contains("QuillonEditor"));
 	EXPECT_EQ(Registered["menuOwners"], 0);
 	EXPECT_EQ(Registered["startupCallbacks"], 0);
+	EXPECT_EQ(Registered["upgradeHandlers"], 0);
 	EXPECT_EQ(Ask("toolbar")["buttons"].size(), 0U);
 }
 
@@ -201,7 +208,7 @@ TEST_F(FModuleHosts, GetTheDetailsLayoutsAfterTheMenusAndBeforeThePlacementCateg
 					{
 						const FSeen Seen = FSeen::Look();
 						const bool bButton = Ask("toolbar")["buttons"].size() == 1;
-						std::_Exit(Seen.HasAll() && bButton && !Seen.bCategory ? 0 : 1);
+						std::_Exit(Seen.HasAll() && bButton && !Seen.bCategory && !Seen.bHears ? 0 : 1);
 					}));
 			FModuleManager::Get().LoadModule("QuillonEditor");
 		},
@@ -215,8 +222,13 @@ TEST_F(FModuleHosts, GetThePlacementCategoryLast)
 	EXPECT_EXIT(
 		{
 			FModuleManager::Get().RegisterStaticallyLinkedModule("PlacementMode",
-				FInitializeStaticallyLinkedModule::CreateLambda([this]() -> IModuleInterface*
-					{ std::_Exit(FSeen::Look().HasAll() && Ask("toolbar")["buttons"].size() == 1 ? 0 : 1); }));
+				FInitializeStaticallyLinkedModule::CreateLambda(
+					[this]() -> IModuleInterface*
+					{
+						const FSeen Seen = FSeen::Look();
+						const bool bButton = Ask("toolbar")["buttons"].size() == 1;
+						std::_Exit(Seen.HasAll() && bButton && Seen.bHears ? 0 : 1);
+					}));
 			FModuleManager::Get().LoadModule("QuillonEditor");
 		},
 		::testing::ExitedWithCode(0), "");
@@ -235,6 +247,7 @@ TEST_F(FModuleHosts, LoseThePlacementCategoryFirst)
 	Module("unload");
 	EXPECT_TRUE(Seen.bLooked);
 	EXPECT_TRUE(Seen.HasAll());
+	EXPECT_TRUE(Seen.bHears);
 	EXPECT_EQ(Seen.MenuOwners, 1);
 }
 
@@ -252,6 +265,7 @@ TEST_F(FModuleHosts, LoseTheMenusAfterTheCategoryAndBeforeTheCommands)
 	Module("unload");
 	EXPECT_TRUE(Seen.bLooked);
 	EXPECT_FALSE(Seen.bCategory);
+	EXPECT_FALSE(Seen.bHears);
 	EXPECT_TRUE(Seen.HasAll());
 }
 
@@ -314,6 +328,23 @@ TEST_F(FModuleHosts, WithoutPlacementModeShutDownDoesAllTheRest)
 	EXPECT_FALSE(Contains(Registered["tabs"], "CineStreamWizard"));
 	EXPECT_FALSE(Registered["commands"].contains("QuillonEditor"));
 	EXPECT_EQ(Registered["menuOwners"], 0);
+	EXPECT_EQ(Registered["upgradeHandlers"], 0);
+}
+
+TEST_F(FModuleHosts, LoseAllButTheSubscriptionToAModuleThatNeverSubscribed)
+{
+	void* const Library = dlopen("libQuillonEditor.so", RTLD_NOW | RTLD_NOLOAD);
+	ASSERT_NE(Library, nullptr);
+	const auto Create = reinterpret_cast<IModuleInterface* (*)()>(dlsym(Library, "InitializeModule"));
+	ASSERT_NE(Create, nullptr);
+	// In the process that dies only: the module that has started finds everything gone.
+	EXPECT_EXIT(
+		{
+			Create()->ShutdownModule();
+			const FSeen Seen = FSeen::Look();
+			std::_Exit(Seen.bHears && !Seen.bStyle && !Seen.bTab && !Seen.bCommands && !Seen.bCategory ? 0 : 1);
+		},
+		::testing::ExitedWithCode(0), "");
 }
 
 TEST_F(FModuleHosts, KeepACategoryThatIsThereAlreadyAndGetItsItems)
@@ -333,9 +364,12 @@ TEST_F(FModuleHosts, KeepACategoryThatIsThereAlreadyAndGetItsItems)
 TEST_F(FModuleHosts, GetEachItemAgainWhenTheModuleIsStartedASecondTime)
 {
 	const json Before = FindCategory(Ask("placement"));
+	IModuleInterface* const Object = FModuleManager::Get().GetModule("QuillonEditor");
 	// Only the tab manager minds a second start.
 	FGlobalTabmanager::Get()->UnregisterNomadTabSpawner("CineStreamWizard");
-	FModuleManager::Get().GetModule("QuillonEditor")->StartupModule();
+	Object->StartupModule();
+	// The first start's subscription would outlive the module, which knows of the second alone.
+	EXPECT_EQ(AuthDelegates::OnUpgradeAvailable.RemoveAll(Object), 2);
 	json After = FindCategory(Ask("placement"));
 	EXPECT_EQ(After["items"],
 		json({"ZAVCineCamCapture", "ZAVSpoutSenderManager", "ZAVSpoutReceiverManager", "ZAVCineCamCapture",

@@ -7,6 +7,7 @@
 #include "PropertyEditorModule.h"
 #include "ToolMenus.h"
 
+#include "AuthDelegates.h"
 #include "DetailCustomisations/ActiveSenderNamesCustomisation.h"
 #include "DetailCustomisations/CaptureComponentDetailsCustomisation.h"
 #include "QuillonEditorCommands.h"
@@ -39,7 +40,14 @@ void FQuillonEditorModule::StartupModule()
 	// 5. Who lays out receivers and capture components in details panels.
 	RegisterDetailCustomisations();
 
-	// 6. The category of the Place Actors panel.
+	// 6. What is remembered of a release that the user skipped.
+	LoadUpgradeState();
+
+	// 7. Announcements of newer releases, not before it is known which of them to pass over.
+	UpgradeAvailableHandle =
+		AuthDelegates::OnUpgradeAvailable.AddRaw(this, &FQuillonEditorModule::HandleUpgradeAvailable);
+
+	// 8. The category of the Place Actors panel.
 	RegisterPlacementCategory();
 }
 
@@ -52,17 +60,24 @@ void FQuillonEditorModule::ShutdownModule()
 			.UnregisterPlacementCategory(PlacementCategoryName);
 	}
 
-	// 2. The toolbar button, and the callback that would still add it.
+	// 2. Announcements, of which there may be more before this object is gone. The handle stays as it is, since each
+	// start sets it anew.
+	if (UpgradeAvailableHandle.IsValid())
+	{
+		AuthDelegates::OnUpgradeAvailable.Remove(UpgradeAvailableHandle);
+	}
+
+	// 3. The toolbar button, and the callback that would still add it.
 	UToolMenus::UnRegisterStartupCallback(this);
 	UToolMenus::UnregisterOwner(this);
 
-	// 3. The commands. The command list dies with this object.
+	// 4. The commands. The command list dies with this object.
 	FQuillonEditorCommands::Unregister();
 
-	// 4. The wizard's tab spawner, which is bound to this object.
+	// 5. The wizard's tab spawner, which is bound to this object.
 	FGlobalTabmanager::Get()->UnregisterNomadTabSpawner(QuillonEditorTabs::CineStreamWizard);
 
-	// 5. The style set, last: whatever still showed one of its brushes is gone by now.
+	// 6. The style set, last: whatever still showed one of its brushes is gone by now.
 	FQuillonEditorStyle::Shutdown();
 
 	// The details layouts stay registered. Their factories are plain functions, which the library keeps: a panel that

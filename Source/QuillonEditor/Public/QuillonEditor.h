@@ -9,6 +9,7 @@ class FSpawnTabArgs;
 class FUICommandList;
 class SCineStreamWizard;
 class SDockTab;
+class SNotificationItem;
 class SWidget;
 struct FPlacementCategoryInfo;
 
@@ -67,6 +68,26 @@ private:
 	/** Has the property editor lay out the plugin's receivers and capture components in the module's own way. */
 	void RegisterDetailCustomisations();
 
+	/** Reads from the save slot which release the user skipped; what can't be read leaves all releases to be offered. */
+	void LoadUpgradeState();
+
+	/** Writes bSkipVersion and OfferedVersion to the save slot; a save that fails is not reported. */
+	void SaveUpgradeState();
+
+	/** Offers an announced release, unless it is the one that the user skipped. */
+	void HandleUpgradeAvailable(FString Version, FString DownloadAddress);
+
+	/** Shows the notification with its three buttons, beside any earlier one. */
+	void ShowUpgradeNotification(const FString& Version, const FString& DownloadAddress);
+
+	/** Takes the notification shown last off the screen. Does nothing when it is gone already. */
+	void CloseUpgradeNotification();
+
+	/** What the notification's buttons do, before they close it: a browser that does not start is not reported. */
+	void OnDownloadNowClicked(FString DownloadAddress);
+	void OnRemindMeLaterClicked();
+	void OnSkipVersionClicked();
+
 	/** Adds the plugin's category to the Place Actors panel, or takes the one that is there, and fills it. */
 	void RegisterPlacementCategory();
 
@@ -82,6 +103,18 @@ private:
 	 */
 	TSharedPtr<FUICommandList> PluginCommands;
 
+	/** The subscription to announcements of newer releases. */
+	FDelegateHandle UpgradeAvailableHandle;
+
 	/** The wizard that was placed in the tab last. Weak: a wizard lives as long as a tab shows it. */
 	TWeakPtr<SCineStreamWizard> WizardWidget;
+
+	/** The notification that was shown last. Weak: it lives as long as it is on screen. */
+	TWeakPtr<SNotificationItem> UpgradeNotification;
+
+	/** Which release was offered last: the part of its download address after the last "/". */
+	FString OfferedVersion;
+
+	/** The user does not want to hear of that release again. */
+	bool bSkipVersion = false;
 };
