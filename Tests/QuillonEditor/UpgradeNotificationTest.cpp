@@ -125,8 +125,9 @@ TEST_F(FUpgradeNotification, HandsAddressesOnAsTheyAreForTheOpenerToJudge)
 		"https://corvane.example", "HTTP://corvane.example/a/", "https://corvane.example/a%20b?c=d/e#f"};
 	const std::vector<std::string> Refused = {"", "Release_2.1.zip", "ends/in/", "file:///etc/passwd",
 		"javascript:alert(1)", "https://corvane.example/a\nb", "https://corvane.example/a\tb",
-		"https://corvane.example/a b", "https://corvane.example/\x01\x1b[2J", "C:\\Program Files\\a.exe",
-		"--help", "https://corvane.example/\xE2\x80\xAE" "piz.exe"};
+		"https://corvane.example/a b", "https://corvane.example/\x01\x1b[2J", "C:\\Program Files\\a.exe", "--help",
+		"https://corvane.example/\xE2\x80\xAE"
+		"piz.exe"};
 	std::vector<std::string> Addresses = Harmless;
 	Addresses.insert(Addresses.end(), Refused.begin(), Refused.end());
 	for (const std::string& Address : Addresses)
@@ -157,8 +158,11 @@ TEST_F(FUpgradeNotification, OpensAnAddressOfAMillionCharacters)
 
 TEST_F(FUpgradeNotification, ShowsAnyVersionAsItIs)
 {
-	const FLog Versions = {"", " ", "{0}", "{1} {Name}", "`{0}`", "2.1\nline\r\nlast", "\xD7\xA2\xD7\x91\xD7\xA8\xD7\x99\xD7\xAA",
-		"\xE2\x80\xAE" "1.2", "\xF0\x9F\x98\x80", "a\tb\x01", "2,000,000.5", std::string(1 << 20U, '9')};
+	const FLog Versions = {"", " ", "{0}", "{1} {Name}", "`{0}`", "2.1\nline\r\nlast",
+		"\xD7\xA2\xD7\x91\xD7\xA8\xD7\x99\xD7\xAA",
+		"\xE2\x80\xAE"
+		"1.2",
+		"\xF0\x9F\x98\x80", "a\tb\x01", "2,000,000.5", std::string(1 << 20U, '9')};
 	for (const std::string& Version : Versions)
 	{
 		Announce(Version, "https://corvane.example/Release.zip");

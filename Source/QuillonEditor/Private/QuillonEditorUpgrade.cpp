@@ -44,9 +44,9 @@ namespace
 
 	FNotificationInfo MakeNotificationInfo(const FString& Version)
 	{
-		FNotificationInfo Info(FText::Format(
-			LOCTEXT("NewUpdatePopupTitle", "Corvane Quillon Upgrade\nVersion {0} Available\n"),
-			FText::FromString(Version)));
+		FNotificationInfo Info(
+			FText::Format(LOCTEXT("NewUpdatePopupTitle", "Corvane Quillon Upgrade\nVersion {0} Available\n"),
+				FText::FromString(Version)));
 		Info.Image = FQuillonEditorStyle::Get().GetBrush("ZAVQuillon.PluginNotificationIcon");
 		// It stays until it is answered, and then goes at once.
 		Info.bFireAndForget = false;

@@ -68,7 +68,8 @@ private:
 	/** Has the property editor lay out the plugin's receivers and capture components in the module's own way. */
 	void RegisterDetailCustomisations();
 
-	/** Reads from the save slot which release the user skipped; what can't be read leaves all releases to be offered. */
+	/** Reads from the save slot which release the user skipped; what can't be read leaves all releases to be offered.
+	 */
 	void LoadUpgradeState();
 
 	/** Writes bSkipVersion and OfferedVersion to the save slot; a save that fails is not reported. */

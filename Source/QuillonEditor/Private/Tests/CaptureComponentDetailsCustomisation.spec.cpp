@@ -34,7 +34,7 @@ BEGIN_DEFINE_SPEC(FCaptureComponentDetailsCustomisationSpec, "Quillon.CaptureCom
 	void Click(const TCHAR* Flag);
 	/** The overrides of a component: "Bloom off; Fog on; ". */
 	static FString GetOverrides(const UZAVCaptureComponent* Overridden);
-	static void AddOverride(UZAVCaptureComponent * Component, const TCHAR* Flag, bool bOn);
+	static void AddOverride(UZAVCaptureComponent * Overridden, const TCHAR* Flag, bool bOn);
 	/** Switches a flag of what a component is made from, until the case is over. */
 	static void SetDefault(const UZAVCaptureComponent* MadeFromIt, const TCHAR* Flag, bool bOn);
 	static UZAVCaptureComponent* GetArchetype(const UObject* Component)
