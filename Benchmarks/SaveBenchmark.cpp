@@ -14,7 +14,7 @@
 
 #include "Kismet/GameplayStatics.h"
 #include "SaveGameFolder.h"
-#include "Standalone/PlatformSaveGames.h"
+#include "PlatformFeatures.h"
 #include "ZAVSaveGame.h"
 
 // What a save costs: the object's properties into bytes, and those into a file that is whole after any crash. In memory
@@ -86,11 +86,11 @@ namespace
 	{
 		const FFolder Folder(Parent);
 		FSaveGameFolder Platform(Folder.Path);
-		FPlatformSaveGames::Install(&Platform);
+		IPlatformFeaturesModule::Get().SetSaveGameSystem(&Platform);
 		UZAVSaveGame* const Game = MakeGame();
 		MeasureMedian(
 			State, Count, [&] { return UGameplayStatics::SaveGameToSlot(Game, Game->SaveSlotName, Game->UserIndex); });
-		FPlatformSaveGames::Install(nullptr);
+		IPlatformFeaturesModule::Get().SetSaveGameSystem(nullptr);
 	}
 
 	/** The least that any save that outlives a crash does: write the bytes, wait for them, rename the file. */

@@ -19,8 +19,8 @@
 #include "Interfaces/IPluginManager.h"
 #include "Misc/Paths.h"
 #include "Modules/ModuleManager.h"
+#include "PlatformFeatures.h"
 #include "SaveGameFolder.h"
-#include "Standalone/PlatformSaveGames.h"
 #include "Standalone/SlateNullRenderer.h"
 #include "Standalone/ToolMenusStartup.h"
 #include "UObject/Package.h"
@@ -107,7 +107,7 @@ void FStandaloneEditor::StartEngine(const FStandaloneEditorOptions& Options)
 	if (!Options.SavedDir.empty())
 	{
 		SaveGames = std::make_unique<FSaveGameFolder>(Options.SavedDir);
-		FPlatformSaveGames::Install(SaveGames.get());
+		IPlatformFeaturesModule::Get().SetSaveGameSystem(SaveGames.get());
 	}
 	// Only what the module manager opens registers its types by itself; these are linked.
 	RegisterReflection_Engine();
@@ -159,7 +159,7 @@ void FStandaloneEditor::Shutdown()
 	ClosePanels();
 	FEditorAssets::RemoveAll();
 	FModuleManager::Get().UnloadModulesAtShutdown();
-	FPlatformSaveGames::Install(nullptr);
+	IPlatformFeaturesModule::Get().SetSaveGameSystem(nullptr);
 	SaveGames.reset();
 	FToolMenusStartup::ShutDown();
 	IPluginManager::Get().ForgetPlugins();

@@ -12,7 +12,7 @@
 #include <numeric>
 
 #include "Kismet/GameplayStatics.h"
-#include "Standalone/PlatformSaveGames.h"
+#include "PlatformFeatures.h"
 #include "Templates/Casts.h"
 #include "ZAVSaveGame.h"
 
@@ -340,13 +340,13 @@ TEST_F(FSaveGameFolderTest, TellsOfEachSlotThatWasWritten)
 
 TEST_F(FSaveGameFolderTest, RemembersWhatThePluginSaves)
 {
-	FPlatformSaveGames::Install(&System);
+	IPlatformFeaturesModule::Get().SetSaveGameSystem(&System);
 	auto* Game = static_cast<UZAVSaveGame*>(UGameplayStatics::CreateSaveGameObject(UZAVSaveGame::StaticClass()));
 	Game->OfferedVersion = TEXT("1.1");
 	Game->bSkipVersion = true;
 	EXPECT_TRUE(UGameplayStatics::SaveGameToSlot(Game, Game->SaveSlotName, Game->UserIndex));
 	const auto* Loaded = Cast<UZAVSaveGame>(UGameplayStatics::LoadGameFromSlot(TEXT("ZAVQuillon"), 0));
-	FPlatformSaveGames::Install(nullptr);
+	IPlatformFeaturesModule::Get().SetSaveGameSystem(nullptr);
 	ASSERT_NE(Loaded, nullptr);
 	EXPECT_NE(Loaded, Game);
 	EXPECT_TRUE(Loaded->OfferedVersion.Equals(TEXT("1.1")));

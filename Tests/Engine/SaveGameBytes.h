@@ -33,6 +33,8 @@ public:
 	{
 		return Text(Name).Text(Type).Number(Value.Bytes.Num()).Append(Value);
 	}
+	/** What ends the members of a structure. */
+	FSaveGameBytes& End() { return Text(FString()); }
 
 	/** Puts one text over another one of the same length, at its first place. */
 	void ReplaceText(const FString& From, const FString& To)

@@ -56,11 +56,6 @@ namespace
 		}
 		return Node;
 	}
-
-	FText AnyText()
-	{
-		return *rc::gen::arbitrary<bool>() ? FText::FromString(AnyString()) : NSLOCTEXT("Space", "Key", "Source");
-	}
 }
 
 class FSaveGameProperty : public FSaveGameFixture
@@ -74,7 +69,7 @@ RC_GTEST_FIXTURE_PROP(FSaveGameProperty, IsWhatItWasWhateverItHeld, ())
 	Object->Fraction = AnyFloat();
 	Object->Text = AnyString();
 	Object->Name = AnyName();
-	Object->Shown = AnyText();
+	Object->Shown = FText::FromString(AnyString());
 	Object->Inner = AnyStruct();
 	Object->Node = AnyNode(4);
 	Object->Numbers.Empty();

@@ -6,7 +6,6 @@
 #include "PlatformFeatures.h"
 #include "SaveGameFixture.h"
 #include "SaveGameSystem.h"
-#include "Standalone/PlatformSaveGames.h"
 
 namespace
 {
@@ -14,8 +13,8 @@ namespace
 	class FMemorySaveGames : public ISaveGameSystem
 	{
 	public:
-		FMemorySaveGames() { FPlatformSaveGames::Install(this); }
-		virtual ~FMemorySaveGames() override { FPlatformSaveGames::Install(nullptr); }
+		FMemorySaveGames() { IPlatformFeaturesModule::Get().SetSaveGameSystem(this); }
+		virtual ~FMemorySaveGames() override { IPlatformFeaturesModule::Get().SetSaveGameSystem(nullptr); }
 
 		virtual bool DoesSaveGameExist(const TCHAR*, const int32) override { return Saved.Num() > 0; }
 		virtual bool SaveGame(

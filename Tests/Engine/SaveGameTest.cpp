@@ -81,6 +81,7 @@ TEST_F(FSaveGame, LeavesOutReferencesAndWhatIsTransient)
 	Object->Inner.Target = Object;
 	Object->Inner.Passing = 9;
 	Object->Passing = 9;
+	Object->PassingNumbers.Add(9);
 	Object->Hidden = 9;
 	EXPECT_EQ(Save(Object), Save(Make<UTestSaveGame1>()));
 	const UTestSaveGame1* const Loaded = Load<UTestSaveGame1>(Save(Object));
@@ -89,25 +90,28 @@ TEST_F(FSaveGame, LeavesOutReferencesAndWhatIsTransient)
 	EXPECT_EQ(Loaded->Hidden, 6);
 }
 
-TEST_F(FSaveGame, KeepsWhatATextIsTranslatedBy)
+TEST_F(FSaveGame, KeepsOfATextItsSource)
 {
 	UTestSaveGame1* const Object = Make<UTestSaveGame1>();
 	Object->Shown = NSLOCTEXT("Space", "Key", "Source");
 	const UTestSaveGame1* const Loaded = Load<UTestSaveGame1>(Save(Object));
 	ASSERT_NE(Loaded, nullptr);
-	EXPECT_TRUE(FTextInspector::GetNamespace(Loaded->Shown).Get(FString()).Equals(TEXT("Space")));
-	EXPECT_TRUE(FTextInspector::GetKey(Loaded->Shown).Get(FString()).Equals(TEXT("Key")));
-	EXPECT_TRUE(FTextInspector::GetSourceString(Loaded->Shown)->Equals(TEXT("Source")));
+	EXPECT_TRUE(Loaded->Shown.ToString().Equals(TEXT("Source")));
+	EXPECT_FALSE(FTextInspector::GetKey(Loaded->Shown).IsSet());
 }
 
-TEST_F(FSaveGame, KeepsOfATextWithoutIdentityWhatItShows)
+TEST_F(FSaveGame, ReadsNothingIntoMembersThatAreLeftOut)
 {
-	UTestSaveGame1* const Object = Make<UTestSaveGame1>();
-	Object->Shown = FText::Format(FText::FromString(TEXT("a {0}")), FText::FromString(TEXT("b")));
-	const UTestSaveGame1* const Loaded = Load<UTestSaveGame1>(Save(Object));
-	ASSERT_NE(Loaded, nullptr);
-	EXPECT_TRUE(Loaded->Shown.ToString().Equals(TEXT("a b")));
-	EXPECT_FALSE(FTextInspector::GetKey(Loaded->Shown).IsSet());
+	for (const TCHAR* Name : {TEXT("Reference"), TEXT("References"), TEXT("Passing"), TEXT("PassingNumbers")})
+	{
+		for (const TCHAR* Type : {TEXT(""), TEXT("int32"), TEXT("TArray int32"), TEXT("TArray ")})
+		{
+			const UTestSaveGame1* const Loaded =
+				Load1(FSaveGameBytes().Text(ClassName1).Member(Name, Type, FSaveGameBytes().Number(1).Number(2)).End());
+			EXPECT_EQ(Loaded == nullptr, *Type == 0) << TCHAR_TO_UTF8(Name) << TCHAR_TO_UTF8(Type);
+			EXPECT_TRUE(!Loaded || FindDifference(Loaded, GetDefault<UTestSaveGame1>()).empty());
+		}
+	}
 }
 
 TEST_F(FSaveGame, ReadsWhatALaterClassStillKnows)
@@ -141,10 +145,10 @@ TEST_F(FSaveGame, ReadsWhatAnEarlierClassDidNotHave)
 TEST_F(FSaveGame, PassesOverUnknownMembersWhateverTheyHold)
 {
 	FSaveGameBytes Bytes;
-	Bytes.Text(ClassName1).Number(3);
+	Bytes.Text(ClassName1);
 	Bytes.Member(TEXT("Unknown"), TEXT("int32"), FSaveGameBytes().Number(1));
 	Bytes.Member(TEXT("Number"), TEXT("nothing known"), FSaveGameBytes().Byte(255).Byte(255));
-	Bytes.Member(TEXT("Number"), TEXT("int32"), FSaveGameBytes().Number(11));
+	Bytes.Member(TEXT("Number"), TEXT("int32"), FSaveGameBytes().Number(11)).End();
 	const UTestSaveGame1* const Loaded = Load1(Bytes);
 	ASSERT_NE(Loaded, nullptr);
 	EXPECT_EQ(Loaded->Number, 11);
@@ -193,13 +197,13 @@ TEST_F(FSaveGame, IsNullForAClassThatCanNotBeSaved)
 			 FString(TEXT("/Script/EngineTests.TestSaveGameBase")), FString(TEXT("/Script/EngineTests")),
 			 FString(TEXT("/Script/EngineTests.Default__TestSaveGame1")), Longest, Longest + TEXT("y")})
 	{
-		EXPECT_EQ(UGameplayStatics::LoadGameFromMemory(FSaveGameBytes().Text(Name).Number(0).Get()), nullptr)
+		EXPECT_EQ(UGameplayStatics::LoadGameFromMemory(FSaveGameBytes().Text(Name).End().Get()), nullptr)
 			<< TCHAR_TO_UTF8(Name);
 	}
-	EXPECT_NE(Load1(FSaveGameBytes().Text(ClassName1).Number(0)), nullptr);
+	EXPECT_NE(Load1(FSaveGameBytes().Text(ClassName1).End()), nullptr);
 	FSaveGameBytes Abstract;
-	Abstract.Text(TEXT("/Script/EngineTests.TestSaveGameBase")).Number(1);
-	Abstract.Member(TEXT("Number"), TEXT("int32"), FSaveGameBytes().Number(1));
+	Abstract.Text(TEXT("/Script/EngineTests.TestSaveGameBase"));
+	Abstract.Member(TEXT("Number"), TEXT("int32"), FSaveGameBytes().Number(1)).End();
 	EXPECT_EQ(UGameplayStatics::LoadGameFromMemory(Abstract.Get()), nullptr);
 }
 
@@ -215,7 +219,7 @@ TEST_F(FSaveGame, BelievesNoNumberThatItReads)
 			const FString Both(Kind);
 			const int32 Blank = Both.Find(TEXT(" "));
 			const FSaveGameBytes Bytes =
-				FSaveGameBytes().Text(ClassName1).Number(1).Member(Both.Left(Blank), Both.RightChop(Blank + 1), Number);
+				FSaveGameBytes().Text(ClassName1).Member(Both.Left(Blank), Both.RightChop(Blank + 1), Number).End();
 			EXPECT_EQ(Load1(Bytes), nullptr) << TCHAR_TO_UTF8(Kind) << Wrong;
 		}
 	}
@@ -226,9 +230,9 @@ TEST_F(FSaveGame, IsNullWhereAMemberHasNotItsLength)
 	for (const int32 Length : {-1, 0, 3, 5, 8, 0x7FFFFFFF})
 	{
 		FSaveGameBytes Bytes;
-		Bytes.Text(ClassName1).Number(1).Text(TEXT("Number")).Text(TEXT("int32")).Number(Length).Number(1);
+		Bytes.Text(ClassName1).Text(TEXT("Number")).Text(TEXT("int32")).Number(Length).Number(1).End();
 		EXPECT_EQ(Load1(Bytes), nullptr) << Length;
-		EXPECT_EQ(Load1(Bytes.Number(0)), nullptr) << Length;
+		EXPECT_EQ(Load1(Bytes.End()), nullptr) << Length;
 	}
 }
 
@@ -237,7 +241,7 @@ TEST_F(FSaveGame, IsNullWhereAnUnknownMemberEndsNowhere)
 	for (const int32 Length : {-1, 5, 0x7FFFFFFF})
 	{
 		FSaveGameBytes Bytes;
-		Bytes.Text(ClassName1).Number(2).Text(TEXT("Unknown")).Text(TEXT("int32")).Number(Length).Number(0);
+		Bytes.Text(ClassName1).Text(TEXT("Unknown")).Text(TEXT("int32")).Number(Length).End();
 		EXPECT_EQ(Load1(Bytes), nullptr) << Length;
 	}
 }
@@ -246,15 +250,14 @@ TEST_F(FSaveGame, IsNullForATruthValueOfNeitherKind)
 {
 	const auto LoadFlag = [](uint8 Byte)
 	{
-		return Load1(FSaveGameBytes()
-						 .Text(ClassName1)
-						 .Number(1)
-						 .Member(TEXT("bFlag"), TEXT("bool"), FSaveGameBytes().Byte(Byte)));
+		return Load1(
+			FSaveGameBytes().Text(ClassName1).Member(TEXT("bFlag"), TEXT("bool"), FSaveGameBytes().Byte(Byte)).End());
 	};
 	ASSERT_NE(LoadFlag(0), nullptr);
 	EXPECT_FALSE(LoadFlag(0)->bFlag);
 	EXPECT_TRUE(LoadFlag(1)->bFlag);
 	EXPECT_EQ(LoadFlag(2), nullptr);
+	EXPECT_EQ(Load1(FSaveGameBytes().Text(ClassName1).Text(TEXT("bFlag")).Text(TEXT("bool")).Number(0)), nullptr);
 }
 
 TEST_F(FSaveGame, IsNullForANameThatIsTooLong)
@@ -262,10 +265,8 @@ TEST_F(FSaveGame, IsNullForANameThatIsTooLong)
 	const auto LoadName = [](int32 Length)
 	{
 		const FString Name(std::string(static_cast<size_t>(Length), 'x').c_str());
-		return Load1(FSaveGameBytes()
-						 .Text(ClassName1)
-						 .Number(1)
-						 .Member(TEXT("Name"), TEXT("FName"), FSaveGameBytes().Text(Name)));
+		return Load1(
+			FSaveGameBytes().Text(ClassName1).Member(TEXT("Name"), TEXT("FName"), FSaveGameBytes().Text(Name)).End());
 	};
 	ASSERT_NE(LoadName(NAME_SIZE - 1), nullptr);
 	EXPECT_EQ(LoadName(NAME_SIZE - 1)->Name.ToString().Len(), NAME_SIZE - 1);
@@ -298,14 +299,14 @@ TEST_F(FSaveGame, IsNullForStructuresThatNestWithoutEnd)
 	const auto LoadNested = [](int32 Depth)
 	{
 		FSaveGameBytes Node;
-		Node.Number(0);
+		Node.End();
 		for (int32 Level = 1; Level < Depth; ++Level)
 		{
 			FSaveGameBytes Children;
 			Children.Number(1).Append(Node);
-			Node = FSaveGameBytes().Number(1).Member(TEXT("Children"), TEXT("TArray ") + NodeName, Children);
+			Node = FSaveGameBytes().Member(TEXT("Children"), TEXT("TArray ") + NodeName, Children).End();
 		}
-		return Load1(FSaveGameBytes().Text(ClassName1).Number(1).Member(TEXT("Node"), NodeName, Node));
+		return Load1(FSaveGameBytes().Text(ClassName1).Member(TEXT("Node"), NodeName, Node).End());
 	};
 	EXPECT_NE(LoadNested(63), nullptr);
 	EXPECT_EQ(LoadNested(64), nullptr);

@@ -90,6 +90,9 @@ public:
 	UPROPERTY(Transient)
 	int32 Passing = 5;
 
+	UPROPERTY(Transient)
+	TArray<int32> PassingNumbers;
+
 	int32 Hidden = 6;
 };
 

@@ -2,7 +2,7 @@
 #include "UpgradeFixture.h"
 
 #include "Kismet/GameplayStatics.h"
-#include "Standalone/PlatformSaveGames.h"
+#include "PlatformFeatures.h"
 #include "Templates/Casts.h"
 #include "ZAVSaveGame.h"
 
@@ -45,7 +45,7 @@ FUpgradeEditor::FUpgradeEditor()
 FUpgradeEditor::~FUpgradeEditor()
 {
 	// A test may have put save games of its own there.
-	FPlatformSaveGames::Install(nullptr);
+	IPlatformFeaturesModule::Get().SetSaveGameSystem(nullptr);
 }
 
 void FUpgradeEditor::RestartEditor(bool bSavesGames)

@@ -5,7 +5,7 @@
 
 #include "UpgradeFixture.h"
 
-#include "Standalone/PlatformSaveGames.h"
+#include "PlatformFeatures.h"
 
 using nlohmann::json;
 
@@ -85,7 +85,7 @@ RC_GTEST_FIXTURE_PROP(FUpgradeEditor, FollowsAPlainModel, ())
 {
 	// On no disk, which takes its time with each save.
 	FTestSaveGames SaveGames;
-	FPlatformSaveGames::Install(&SaveGames);
+	IPlatformFeaturesModule::Get().SetSaveGameSystem(&SaveGames);
 	FModel Model;
 	const int Steps = *rc::gen::inRange(1, 25);
 	for (int Step = 0; Step < Steps; ++Step)

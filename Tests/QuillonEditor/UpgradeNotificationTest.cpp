@@ -4,7 +4,7 @@
 #include "AuthDelegates.h"
 #include "Framework/Application/SlateApplication.h"
 #include "Framework/Notifications/NotificationManager.h"
-#include "Standalone/PlatformSaveGames.h"
+#include "PlatformFeatures.h"
 #include "Standalone/SlateNullRenderer.h"
 #include "Standalone/TextFormatInspector.h"
 #include "TextDescription.h"
@@ -220,7 +220,7 @@ TEST_F(FUpgradeNotification, KeepsTheFirstOfTwoWhoseButtonsDoOnlyWhatTheyDo)
 TEST_F(FUpgradeNotification, StacksUpForAThousandAnnouncements)
 {
 	FTestSaveGames SaveGames;
-	FPlatformSaveGames::Install(&SaveGames);
+	IPlatformFeaturesModule::Get().SetSaveGameSystem(&SaveGames);
 	FLog Versions;
 	for (int Number = 0; Number < 1000; ++Number)
 	{

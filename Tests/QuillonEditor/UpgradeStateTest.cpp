@@ -7,7 +7,7 @@
 #include "Kismet/GameplayStatics.h"
 #include "Modules/ModuleManager.h"
 #include "OtherSaveGame.h"
-#include "Standalone/PlatformSaveGames.h"
+#include "PlatformFeatures.h"
 #include "UObject/Class.h"
 #include "ZAVSaveGame.h"
 
@@ -40,7 +40,7 @@ protected:
 	void ReloadOn(FTestSaveGames& SaveGames)
 	{
 		Module("unload");
-		FPlatformSaveGames::Install(&SaveGames);
+		IPlatformFeaturesModule::Get().SetSaveGameSystem(&SaveGames);
 		Module("load");
 	}
 	void Module(const char* Action, const char* Name = "QuillonEditor")
@@ -289,7 +289,7 @@ TEST_F(FUpgradeState, IsReadAfterTheDetailsLayoutsAndBeforeAnnouncementsAreHeard
 		Handlers = AuthDelegates::OnUpgradeAvailable.GetBindingCount();
 		bLayouts = FModuleManager::Get().IsModuleLoaded("PropertyEditor");
 	};
-	FPlatformSaveGames::Install(&SaveGames);
+	IPlatformFeaturesModule::Get().SetSaveGameSystem(&SaveGames);
 	Module("load");
 	EXPECT_EQ(Handlers, 0);
 	EXPECT_TRUE(bLayouts);

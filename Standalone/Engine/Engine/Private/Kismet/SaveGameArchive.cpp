@@ -13,16 +13,18 @@ namespace
 	/** What a property's values are, for telling whether it has become another one; empty for what is left out. */
 	FString GetType(const FProperty* Property)
 	{
-		if (const FStructProperty* Struct = CastField<FStructProperty>(Property))
+		if (Property->HasAnyPropertyFlags(CPF_Transient))
 		{
-			return Struct->Struct->GetPathName();
+			return FString();
 		}
 		if (const FArrayProperty* Array = CastField<FArrayProperty>(Property))
 		{
 			const FString Inner = GetType(Array->Inner);
 			return Inner.IsEmpty() ? Inner : TEXT("TArray ") + Inner;
 		}
-		return CastField<FBoolProperty>(Property) ? TEXT("bool")
+		const FStructProperty* Struct = CastField<FStructProperty>(Property);
+		return Struct                             ? Struct->Struct->GetPathName()
+			: CastField<FBoolProperty>(Property)  ? TEXT("bool")
 			: CastField<FIntProperty>(Property)   ? TEXT("int32")
 			: CastField<FFloatProperty>(Property) ? TEXT("float")
 			: CastField<FStrProperty>(Property)   ? TEXT("FString")
@@ -30,88 +32,74 @@ namespace
 			: CastField<FTextProperty>(Property)  ? TEXT("FText")
 												  : TEXT("");
 	}
-
-	bool IsStored(const FProperty* Property)
-	{
-		return !Property->HasAnyPropertyFlags(CPF_Transient) && !GetType(Property).IsEmpty();
-	}
 }
 
 bool FSaveGameArchive::SerializeMembers(const UStruct* Struct, void* Container)
 {
-	if (Depth == MaxDepth)
-	{
-		return false;
-	}
 	++Depth;
-	bool bDone = true;
-	if (bLoading)
-	{
-		int32 Num = 0;
-		bDone = SerializeNumber(Num) && Num >= 0;
-		for (int32 Index = 0; bDone && Index < Num; ++Index)
-		{
-			bDone = LoadMember(Struct, Container);
-		}
-	}
-	else
-	{
-		bDone = SaveMembers(Struct, Container);
-	}
+	const bool bDone =
+		Depth <= MaxDepth && (bLoading ? LoadMembers(Struct, Container) : SaveMembers(Struct, Container));
 	--Depth;
 	return bDone;
 }
 
-bool FSaveGameArchive::LoadMember(const UStruct* Struct, void* Container)
+bool FSaveGameArchive::LoadMembers(const UStruct* Struct, void* Container)
 {
 	FString Name;
 	FString Type;
 	int32 Length = 0;
-	if (!SerializeString(Name) || !SerializeString(Type) || !SerializeNumber(Length) || Length < 0 ||
-		Length > Bytes.Num() - Position)
+	while (SerializeString(Name))
 	{
-		return false;
-	}
-	const int32 End = Position + Length;
-	for (TFieldIterator<FProperty> It(Struct); It; ++It)
-	{
-		if (It->GetName() == Name && IsStored(*It) && GetType(*It) == Type)
+		if (Name.IsEmpty())
 		{
-			return SerializeValue(*It, It->ContainerPtrToValuePtr<void>(Container)) && Position == End;
+			return true;
 		}
+		// No type is that of members which are left out: those must not be found.
+		if (!SerializeString(Type) || Type.IsEmpty() || !SerializeBytes(&Length, sizeof(Length)) || Length < 0 ||
+			Length > Bytes.Num() - Position)
+		{
+			return false;
+		}
+		const int32 End = Position + Length;
+		TFieldIterator<FProperty> It(Struct);
+		while (It && !(It->GetName() == Name && GetType(*It) == Type))
+		{
+			++It;
+		}
+		if (It && !(SerializeValue(*It, It->ContainerPtrToValuePtr<void>(Container)) && Position == End))
+		{
+			return false;
+		}
+		Position = End;
 	}
-	Position = End;
-	return true;
+	return false;
 }
 
 bool FSaveGameArchive::SaveMembers(const UStruct* Struct, void* Container)
 {
-	int32 Num = 0;
-	const int32 NumPlace = Bytes.Num();
-	SerializeNumber(Num);
+	FString Name;
 	for (TFieldIterator<FProperty> It(Struct); It; ++It)
 	{
-		if (!IsStored(*It))
+		FString Type = GetType(*It);
+		if (Type.IsEmpty())
 		{
 			continue;
 		}
-		FString Name = It->GetName();
-		FString Type = GetType(*It);
-		int32 Length = 0;
+		Name = It->GetName();
 		SerializeString(Name);
 		SerializeString(Type);
-		SerializeNumber(Length);
-		const int32 Begin = Bytes.Num();
+		int32 Length = 0;
+		SerializeBytes(&Length, sizeof(Length));
+		const int32 Begin = Position;
 		if (!SerializeValue(*It, It->ContainerPtrToValuePtr<void>(Container)))
 		{
 			return false;
 		}
-		Length = Bytes.Num() - Begin;
-		std::memcpy(&Bytes[Begin - static_cast<int32>(sizeof(Length))], &Length, sizeof(Length));
-		++Num;
+		Length = Position - Begin;
+		std::memcpy(Bytes.GetData() + Begin - sizeof(Length), &Length, sizeof(Length));
 	}
-	std::memcpy(&Bytes[NumPlace], &Num, sizeof(Num));
-	return true;
+	Name.Reset();
+	return SerializeString(Name);
 }
 
 bool FSaveGameArchive::SerializeValue(const FProperty* Property, void* Value)
@@ -124,30 +112,39 @@ bool FSaveGameArchive::SerializeValue(const FProperty* Property, void* Value)
 	{
 		return SerializeArray(Array, Value);
 	}
-	if (CastField<FBoolProperty>(Property))
-	{
-		return SerializeBool(*static_cast<bool*>(Value));
-	}
 	if (CastField<FStrProperty>(Property))
 	{
 		return SerializeString(*static_cast<FString*>(Value));
 	}
-	if (CastField<FNameProperty>(Property))
+	FName* const Name = CastField<FNameProperty>(Property) ? static_cast<FName*>(Value) : nullptr;
+	FText* const Text = CastField<FTextProperty>(Property) ? static_cast<FText*>(Value) : nullptr;
+	if (!Name && !Text)
 	{
-		return SerializeName(*static_cast<FName*>(Value));
+		// No bool ever gets another byte.
+		const bool bChecked = bLoading && !IsAtEnd() && CastField<FBoolProperty>(Property);
+		return !(bChecked && Bytes[Position] > 1) && SerializeBytes(Value, Property->ElementSize);
 	}
-	if (CastField<FTextProperty>(Property))
+	FString String = Name ? Name->ToString() : *FTextInspector::GetSourceString(*Text);
+	if (!SerializeString(String) || (Name && String.Len() >= NAME_SIZE))
 	{
-		return SerializeText(*static_cast<FText*>(Value));
+		return false;
 	}
-	return SerializeBytes(Value, static_cast<SIZE_T>(Property->ElementSize));
+	if (bLoading && Name)
+	{
+		*Name = FName(*String);
+	}
+	else if (bLoading)
+	{
+		*Text = FText::FromString(String);
+	}
+	return true;
 }
 
 bool FSaveGameArchive::SerializeArray(const FArrayProperty* Property, void* Array)
 {
 	FScriptArrayHelper Elements(Property, Array);
 	int32 Num = Elements.Num();
-	if (!SerializeNumber(Num) || Num < 0)
+	if (!SerializeBytes(&Num, sizeof(Num)) || Num < 0)
 	{
 		return false;
 	}
@@ -166,86 +163,33 @@ bool FSaveGameArchive::SerializeArray(const FArrayProperty* Property, void* Arra
 	return true;
 }
 
-bool FSaveGameArchive::SerializeBool(bool& bValue)
-{
-	uint8 Byte = bValue ? 1 : 0;
-	if (!SerializeBytes(&Byte, 1) || Byte > 1)
-	{
-		return false;
-	}
-	bValue = Byte == 1;
-	return true;
-}
-
-bool FSaveGameArchive::SerializeName(FName& Value)
-{
-	FString Name = Value.ToString();
-	if (!SerializeString(Name) || Name.Len() >= NAME_SIZE)
-	{
-		return false;
-	}
-	if (bLoading)
-	{
-		Value = FName(*Name);
-	}
-	return true;
-}
-
-bool FSaveGameArchive::SerializeText(FText& Value)
-{
-	FString Key = FTextInspector::GetKey(Value).Get(FString());
-	FString Namespace = FTextInspector::GetNamespace(Value).Get(FString());
-	FString Source = *FTextInspector::GetSourceString(Value);
-	if (!SerializeString(Key) || !SerializeString(Namespace) || !SerializeString(Source))
-	{
-		return false;
-	}
-	if (bLoading)
-	{
-		Value = Key.IsEmpty()
-			? FText::FromString(Source)
-			: FInternationalization::ForUseOnlyByLocMacroAndGraphNodeTextLiterals_CreateText(*Source, *Namespace, *Key);
-	}
-	return true;
-}
-
 bool FSaveGameArchive::SerializeString(FString& Value)
 {
 	int32 Num = Value.Len();
-	if (!SerializeNumber(Num) || Num < 0)
+	if (!SerializeBytes(&Num, sizeof(Num)) || Num < 0 || (bLoading && Num > (Bytes.Num() - Position) / 2))
 	{
 		return false;
 	}
-	if (!bLoading)
-	{
-		return SerializeBytes(const_cast<TCHAR*>(*Value), static_cast<SIZE_T>(Num) * sizeof(TCHAR));
-	}
-	if (Num > (Bytes.Num() - Position) / static_cast<int32>(sizeof(TCHAR)))
-	{
-		return false;
-	}
-	TArray<TCHAR> Units;
-	// One more for the pointer to be valid.
+	TArray<TCHAR> Units(*Value, bLoading ? 0 : Num);
+	// The closing zero keeps the pointer valid.
 	Units.SetNum(Num + 1);
-	SerializeBytes(Units.GetData(), static_cast<SIZE_T>(Num) * sizeof(TCHAR));
+	SerializeBytes(Units.GetData(), Num * static_cast<int32>(sizeof(TCHAR)));
 	Value = FString(Num, Units.GetData());
 	return true;
 }
 
-bool FSaveGameArchive::SerializeBytes(void* Data, SIZE_T Count)
+bool FSaveGameArchive::SerializeBytes(void* Data, int32 Num)
 {
-	const int32 Num = static_cast<int32>(Count);
 	if (!bLoading)
 	{
-		Bytes.SetNum(Bytes.Num() + Num);
-		std::memcpy(Bytes.GetData() + Bytes.Num() - Num, Data, Count);
-		return true;
+		Bytes.SetNum(Position + Num);
 	}
-	if (Num > Bytes.Num() - Position)
+	else if (Num > Bytes.Num() - Position)
 	{
 		return false;
 	}
-	std::memcpy(Data, Bytes.GetData() + Position, Count);
+	uint8* const Here = Bytes.GetData() + Position;
+	std::memcpy(bLoading ? Data : Here, bLoading ? Here : Data, static_cast<SIZE_T>(Num));
 	Position += Num;
 	return true;
 }

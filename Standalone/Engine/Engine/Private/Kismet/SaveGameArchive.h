@@ -5,24 +5,22 @@
 
 class FArrayProperty;
 class FProperty;
-class FTextProperty;
-class UObject;
 class UStruct;
 
 /**
  * Reflected properties as bytes, to and from.
  *
- * A structure is the number of its members and each one's name, type, length and value, so that a later version of the
- * program finds what it still knows: a member that it does not know, or that has another type, is passed over, and one
- * that is missing keeps its value. Transient properties and references to objects are left out. Numbers are as in
- * memory, texts are UTF-16 after their length.
+ * A structure is its members, each one's name, type, length and value, and an empty name at their end, so that a later
+ * version of the program finds what it still knows: a member that it does not know, or that has another type, is passed
+ * over, and one that is missing keeps its value. Transient properties and references to objects are left out, and of a
+ * text all but its source. Numbers are as in memory, strings are UTF-16 after their length.
  *
  * Bytes may come from anywhere: no length in them is believed, and no more is allocated than they hold.
  */
 class FSaveGameArchive
 {
 public:
-	/** Reads Bytes, or appends to them. */
+	/** Reads Bytes, or fills them, which must be empty. */
 	FSaveGameArchive(TArray<uint8>& InBytes, bool bInLoading) : Bytes(InBytes), bLoading(bInLoading) {}
 
 	/** @return false for malformed bytes, and for structures that lie deeper in each other than can be read. */
@@ -31,15 +29,11 @@ public:
 	bool IsAtEnd() const { return Position == Bytes.Num(); }
 
 private:
-	bool LoadMember(const UStruct* Struct, void* Container);
+	bool LoadMembers(const UStruct* Struct, void* Container);
 	bool SaveMembers(const UStruct* Struct, void* Container);
 	bool SerializeValue(const FProperty* Property, void* Value);
 	bool SerializeArray(const FArrayProperty* Property, void* Array);
-	bool SerializeBool(bool& bValue);
-	bool SerializeName(FName& Value);
-	bool SerializeText(FText& Value);
-	bool SerializeNumber(int32& Number) { return SerializeBytes(&Number, sizeof(Number)); }
-	bool SerializeBytes(void* Data, SIZE_T Count);
+	bool SerializeBytes(void* Data, int32 Num);
 
 	TArray<uint8>& Bytes;
 	const bool bLoading;
