@@ -166,14 +166,22 @@ bool FSaveGameArchive::SerializeArray(const FArrayProperty* Property, void* Arra
 bool FSaveGameArchive::SerializeString(FString& Value)
 {
 	int32 Num = Value.Len();
-	if (!SerializeBytes(&Num, sizeof(Num)) || Num < 0 || (bLoading && Num > (Bytes.Num() - Position) / 2))
+	if (!SerializeBytes(&Num, sizeof(Num)) || Num < 0)
 	{
 		return false;
 	}
-	TArray<TCHAR> Units(*Value, bLoading ? 0 : Num);
+	if (!bLoading)
+	{
+		return SerializeBytes(const_cast<TCHAR*>(*Value), Num * 2);
+	}
+	if (Num > (Bytes.Num() - Position) / 2)
+	{
+		return false;
+	}
+	TArray<TCHAR> Units;
 	// The closing zero keeps the pointer valid.
 	Units.SetNum(Num + 1);
-	SerializeBytes(Units.GetData(), Num * static_cast<int32>(sizeof(TCHAR)));
+	SerializeBytes(Units.GetData(), Num * 2);
 	Value = FString(Num, Units.GetData());
 	return true;
 }
