@@ -118,6 +118,16 @@ TEST_F(FModuleHosts, AreLeftCleanAtShutDown)
 	EXPECT_EQ(Ask("toolbar")["buttons"].size(), 0U);
 }
 
+TEST_F(FModuleHosts, KeepWhoElseListensToAnnouncements)
+{
+	int32 Heard = 0;
+	const FDelegateHandle Handle = AuthDelegates::OnUpgradeAvailable.AddLambda([&Heard](FString, FString) { ++Heard; });
+	Module("unload");
+	Ask({{"do", "announce"}, {"version", "2.1"}, {"address", "Release_2.1.zip"}});
+	AuthDelegates::OnUpgradeAvailable.Remove(Handle);
+	EXPECT_EQ(Heard, 1);
+}
+
 TEST_F(FModuleHosts, KeepTheDetailsLayoutsAfterShutDown)
 {
 	const json Before = Ask("registered")["layouts"];

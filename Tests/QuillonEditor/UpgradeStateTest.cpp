@@ -186,6 +186,18 @@ TEST_F(FUpgradeState, TakesTheIdentifierFromTheSlotAsWell)
 	EXPECT_EQ(ReadSlot(), "keep Release_2.1.zip") << "2.2 was offered, but not saved";
 }
 
+TEST_F(FUpgradeState, FitsNoReleaseWhenTheSlotNamesOneThatNoAddressCanHave)
+{
+	UZAVSaveGame* Saved = NewObject<UZAVSaveGame>();
+	Saved->bSkipVersion = true;
+	Saved->OfferedVersion = TEXT("download/Release_2.1.zip");
+	ASSERT_TRUE(UGameplayStatics::SaveGameToSlot(Saved, TEXT("ZAVQuillon"), 0));
+	RestartEditor();
+	AnnounceRelease("2.1");
+	EXPECT_EQ(CountNotifications(), 1U);
+	EXPECT_EQ(ReadSlot(), "keep download/Release_2.1.zip");
+}
+
 TEST_F(FUpgradeState, IsKeptInTheModuleAloneWithoutSaveGames)
 {
 	RestartEditor(false);
@@ -211,9 +223,11 @@ TEST_F(FUpgradeState, StaysEmptyWhenTheSlotCannotBeRead)
 	for (const std::string& Bytes : {std::string(), Slot.substr(0, Slot.size() - 1), Altered, std::string("no slot")})
 	{
 		Folder.Write("SaveGames/ZAVQuillon.sav", Bytes);
+		::testing::internal::CaptureStderr();
 		RestartEditor();
 		EXPECT_EQ(Ask("outside")["messages"], json::array());
 		AnnounceRelease("2.1");
+		EXPECT_NE(::testing::internal::GetCapturedStderr().find("; kept as "), std::string::npos);
 		EXPECT_EQ(CountNotifications(), 1U);
 		EXPECT_EQ(ReadSlot(), "keep ");
 		Press(0, "Skip version");
@@ -230,8 +244,9 @@ TEST_F(FUpgradeState, StaysEmptyWhenTheSlotHoldsAnotherClass)
 		UGameplayStatics::CreateSaveGameObject(UOtherSaveGame::StaticClass()), TEXT("ZAVQuillon"), 0));
 	ASSERT_NE(UGameplayStatics::LoadGameFromSlot(TEXT("ZAVQuillon"), 0), nullptr) << "it can be read";
 	RestartEditor();
-	RegisterReflection_QuillonEditorTests();
+	::testing::internal::CaptureStderr();
 	AnnounceRelease("2.1");
+	EXPECT_NE(::testing::internal::GetCapturedStderr().find("; kept as "), std::string::npos);
 	EXPECT_EQ(CountNotifications(), 1U);
 	EXPECT_EQ(ReadSlot(), "keep ");
 }
