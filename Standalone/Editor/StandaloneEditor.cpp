@@ -12,11 +12,13 @@
 #include "Editor.h"
 #include "EditorAssets.h"
 #include "EngineText.h"
+#include "Engine/Level.h"
 #include "Engine/World.h"
 #include "Framework/Application/SlateApplication.h"
 #include "Framework/Docking/TabManager.h"
 #include "Framework/Notifications/NotificationManager.h"
 #include "Interfaces/IPluginManager.h"
+#include "LevelToolBar.h"
 #include "Misc/Paths.h"
 #include "Modules/ModuleManager.h"
 #include "PlatformFeatures.h"
@@ -127,6 +129,7 @@ void FStandaloneEditor::StartEngine(const FStandaloneEditorOptions& Options)
 	GEditor->NewMap();
 	SecondWorld = UWorld::CreateWorld(EWorldType::EditorPreview, false);
 	Details = std::make_unique<FDetailsPanel>();
+	ToolBar = std::make_unique<FLevelToolBar>();
 	if (Options.bOpenViewport)
 	{
 		Viewports.Open({nullptr}, 0);
@@ -165,6 +168,7 @@ void FStandaloneEditor::Shutdown()
 	IPluginManager::Get().ForgetPlugins();
 	Viewports.Close();
 	Details.reset();
+	ToolBar.reset();
 	GEditor->GetEditorWorldContext().World()->DestroyWorld(true);
 	SecondWorld->DestroyWorld(false);
 	SecondWorld = nullptr;
@@ -186,6 +190,16 @@ UWorld* FStandaloneEditor::GetWorld(int32 Index) const
 {
 	check(Index == 0 || Index == 1);
 	return Index == 0 ? GEditor->GetEditorWorldContext().World() : SecondWorld;
+}
+
+void FStandaloneEditor::EmptySecondWorld()
+{
+	// A copy: destroying takes them off the list.
+	const TArray<AActor*> Actors = SecondWorld->PersistentLevel->Actors;
+	for (AActor* Actor : Actors)
+	{
+		SecondWorld->DestroyActor(Actor);
+	}
 }
 
 void FStandaloneEditor::ClosePanels()

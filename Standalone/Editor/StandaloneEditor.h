@@ -9,6 +9,7 @@
 
 class FDetailsPanel;
 class FLevelEditorViewportClient;
+class FLevelToolBar;
 class FSaveGameFolder;
 class UClass;
 class UWorld;
@@ -61,6 +62,9 @@ public:
 	/** @return 0: the world of the open level, which changes when another is opened; 1: the second one. */
 	UWorld* GetWorld(int32 Index) const;
 
+	/** The world beside the level's is empty at first, and has to be again with each other level. */
+	void EmptySecondWorld();
+
 	FViewportSet& GetViewports() { return Viewports; }
 
 	/** The client of the one viewport that the editor starts with; fatal if it was told to start without. */
@@ -68,6 +72,9 @@ public:
 
 	/** The details of what is selected. */
 	FDetailsPanel& GetDetails() { return *Details; }
+
+	/** The editor's own buttons on the level editor's toolbar. */
+	FLevelToolBar& GetToolBar() { return *ToolBar; }
 
 	/** Closes what modules have opened or laid out, as none of them may be unloaded before. */
 	void ClosePanels();
@@ -79,6 +86,7 @@ private:
 	std::unique_ptr<FSaveGameFolder> SaveGames;
 	FViewportSet Viewports;
 	std::unique_ptr<FDetailsPanel> Details;
+	std::unique_ptr<FLevelToolBar> ToolBar;
 	UWorld* SecondWorld = nullptr;
 	bool bRunning = false;
 };

@@ -5,6 +5,7 @@
 
 #include "EngineText.h"
 #include "Framework/MultiBox/MultiBox.h"
+#include "LevelToolBar.h"
 #include "TestEditor.h"
 #include "TestMenu.h"
 #include "ToolMenus.h"
@@ -45,13 +46,15 @@ TEST_F(FEditorMenusTest, ListsTheButtonsFromLeftToRight)
 	{
 		Names.push_back(FEngineText::ForDisplay(Button.Section) + "/" + FEngineText::ForDisplay(Button.Entry->Name));
 	}
-	EXPECT_EQ(
-		Names, (std::vector<std::string>{"First/TestMenu", "First/TestDead", "Second/TestEmpty", "Second/TestOther"}));
+	EXPECT_EQ(Names,
+		(std::vector<std::string>{"File/Save", "Edit/Undo", "Edit/Redo", "First/TestMenu", "First/TestDead",
+			"Second/TestEmpty", "Second/TestOther"}));
 }
 
 TEST(FEditorMenus, ListsNothingWhereNobodyExtendedTheToolbar)
 {
 	const FTestEditor Editor(FTestEditor::EngineOnly());
+	UToolMenus::UnregisterOwner(FLevelToolBar::GetOwner());
 	EXPECT_TRUE(FEditorMenus::GetButtons().empty());
 }
 

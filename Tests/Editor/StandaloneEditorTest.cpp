@@ -205,7 +205,7 @@ TEST(FStandaloneEditor, TakesMenusDownWithAllThatIsInThem)
 	Menus->ExtendMenu("LevelEditor.LevelEditorToolBar")->FindOrAddSection("Settings").AddEntry(Entry);
 	Editor.Tick();
 	ASSERT_TRUE(Menus.IsValid());
-	EXPECT_EQ(FToolMenusStartup::GetOwnerCount(), 1);
+	EXPECT_EQ(FToolMenusStartup::GetOwnerCount(), 2);
 	Editor.Shutdown();
 	EXPECT_FALSE(Menus.IsValid());
 	EXPECT_EQ(FToolMenusStartup::GetOwnerCount(), 0);

@@ -41,12 +41,12 @@ protected:
 	}
 };
 
-TEST_F(FPluginMenu, HangsOnOneButtonInTheToolbarsSettings)
+TEST_F(FPluginMenu, HangsOnOneButtonInTheToolbarsSettingsBehindTheEditorsOwn)
 {
 	const json Buttons = Ask("toolbar")["buttons"];
-	ASSERT_EQ(Buttons.size(), 1U);
+	ASSERT_EQ(Buttons.size(), 4U);
 	EXPECT_EQ(
-		Buttons[0], json::parse(R"({"name":"Corvane","label":"Corvane","labelId":"FQuillonEditorModule,CorvaneBtn",
+		Buttons[3], json::parse(R"({"name":"Corvane","label":"Corvane","labelId":"FQuillonEditorModule,CorvaneBtn",
 			"tooltip":"Corvane","tooltipId":"FQuillonEditorModule,CorvaneBtnTootlip",
 			"icon":{"style":"QuillonEditorStyle","brush":"ZAVQuillOn.PluginTaskbarIcon"},
 			"section":"Settings","kind":"combo"})"));
@@ -62,7 +62,7 @@ TEST_F(FPluginMenu, CanBeSearchedClosesAfterAChoiceAndScrollsBeyondAThousandUnit
 
 TEST_F(FPluginMenu, HangsOnAButtonThatDoesNothingItselfAndIsDrawnInTheCoreStyle)
 {
-	const FToolMenuEntry& Button = *FEditorMenus::GetButtons()[0].Entry;
+	const FToolMenuEntry& Button = *FEditorMenus::GetButtons().back().Entry;
 	const FUIAction* Action = Button.Action.GetUIAction();
 	ASSERT_NE(Action, nullptr);
 	EXPECT_FALSE(Action->ExecuteAction.IsBound());

@@ -6,6 +6,7 @@
 
 #include "EditorMenus.h"
 #include "Framework/Docking/TabManager.h"
+#include "LevelToolBar.h"
 #include "Framework/MultiBox/MultiBox.h"
 #include "Interfaces/IPluginManager.h"
 #include "QuillonEditor.h"
@@ -87,7 +88,8 @@ TEST_F(FModuleShutDownDeathTest, UnregistersAllElseBeforeItReleasesTheStyle)
 				[&Status](const FEnsureReport&)
 				{
 					const bool bEarly = FGlobalTabmanager::Get()->HasTabSpawner("CineStreamWizard") ||
-						FQuillonEditorCommands::IsRegistered() || FToolMenusStartup::GetOwnerCount() > 0;
+						FQuillonEditorCommands::IsRegistered() ||
+						FToolMenusStartup::GetOwnerCount(FLevelToolBar::GetOwner()) > 0;
 					Status = bEarly ? 2 : 0;
 				});
 			Module.ShutdownModule();

@@ -174,6 +174,38 @@ TEST_F(UToolMenusTest, GivesNewEntriesToTheInnermostOwner)
 	EXPECT_EQ(FToolMenusStartup::GetOwnerCount(), 2);
 }
 
+TEST_F(UToolMenusTest, KeepsEveryPartOfAToolBarButton)
+{
+	int32 Pressed = 0;
+	const FToolMenuOwnerScoped Owner("Somebody");
+	const FToolMenuEntry Entry = FToolMenuEntry::InitToolBarButton("Save",
+		FUIAction(FExecuteAction::CreateLambda([&Pressed] { ++Pressed; })), FText::FromString(TEXT("Label")),
+		FText::FromString(TEXT("Tip")), FSlateIcon("Style", "Brush"), "Highlight");
+	EXPECT_EQ(Entry.Name, FName("Save"));
+	EXPECT_EQ(Entry.Owner, FToolMenuOwner("Somebody"));
+	EXPECT_EQ(Entry.Type, EMultiBlockType::ToolBarButton);
+	EXPECT_EQ(Entry.TutorialHighlightName, FName("Highlight"));
+	EXPECT_STREQ(TCHAR_TO_UTF8(Entry.Label.Get().ToString()), "Label");
+	EXPECT_STREQ(TCHAR_TO_UTF8(Entry.ToolTip.Get().ToString()), "Tip");
+	EXPECT_EQ(Entry.Icon.Get().GetStyleName(), FName("Brush"));
+	EXPECT_FALSE(Entry.ToolBarData.ComboButtonContextMenuGenerator.OnGetContent.IsBound());
+	ASSERT_NE(Entry.Action.GetUIAction(), nullptr);
+	EXPECT_TRUE(Entry.Action.GetUIAction()->Execute());
+	EXPECT_EQ(Pressed, 1);
+}
+
+TEST_F(UToolMenusTest, CountsOwnersApartFromOne)
+{
+	for (const char* Name : {"First", "Second"})
+	{
+		const FToolMenuOwnerScoped Owner(Name);
+		Section().AddEntry(MakeEntry(Name));
+	}
+	EXPECT_EQ(FToolMenusStartup::GetOwnerCount(), 2);
+	EXPECT_EQ(FToolMenusStartup::GetOwnerCount("First"), 1);
+	EXPECT_EQ(FToolMenusStartup::GetOwnerCount("Third"), 2);
+}
+
 TEST_F(UToolMenusTest, RemovesAllEntriesOfAnOwnerAndNoOthers)
 {
 	FExtender Extender;

@@ -7,8 +7,6 @@
 #include "Driver/DriverSession.h"
 #include "Editor.h"
 #include "EditorViews.h"
-#include "Engine/Level.h"
-#include "Engine/World.h"
 #include "LevelBuilder.h"
 #include "LevelEditorViewport.h"
 #include "LevelFile.h"
@@ -24,17 +22,6 @@ namespace
 		}
 	}
 
-	/** The world beside the level's is empty at first, and again with each other level. */
-	void EmptySecondWorld(FDriverSession& Session)
-	{
-		UWorld* World = Session.GetEditor().GetWorld(1);
-		const TArray<AActor*> Actors = World->PersistentLevel->Actors;
-		for (AActor* Actor : Actors)
-		{
-			World->DestroyActor(Actor);
-		}
-	}
-
 	FAnswer OpenLevel(FDriverSession& Session, const FRequest& Request)
 	{
 		NeedAssetRegistry();
@@ -43,7 +30,7 @@ namespace
 		{
 			throw FRequestError(Error);
 		}
-		EmptySecondWorld(Session);
+		Session.GetEditor().EmptySecondWorld();
 		return FAnswer();
 	}
 
@@ -52,7 +39,7 @@ namespace
 		NeedAssetRegistry();
 		FLevelPlan Empty;
 		FLevelBuilder::Replace(Empty);
-		EmptySecondWorld(Session);
+		Session.GetEditor().EmptySecondWorld();
 		return FAnswer();
 	}
 

@@ -6,6 +6,7 @@
 #include "Framework/Commands/InputBindingManager.h"
 #include "Framework/Docking/TabManager.h"
 #include "IPlacementModeModule.h"
+#include "LevelToolBar.h"
 #include "PropertyEditorModule.h"
 #include "Standalone/BindingCounts.h"
 #include "Standalone/StyleInspector.h"
@@ -78,7 +79,8 @@ namespace
 		return {{"styles", SortNames(FStyleInspector::GetStyleSetNames())},
 			{"tabs", SortNames(FGlobalTabmanager::Get()->GetTabSpawnerNames())}, {"commands", ListCommands()},
 			{"layouts", ListLayouts()}, {"placement", ListPlacement()},
-			{"menuOwners", FToolMenusStartup::GetOwnerCount()},
+			// The editor's own buttons are always there.
+			{"menuOwners", FToolMenusStartup::GetOwnerCount(FLevelToolBar::GetOwner())},
 			{"startupCallbacks", FToolMenusStartup::GetStartupCallbackCount()},
 			{"upgradeHandlers", AuthDelegates::OnUpgradeAvailable.GetBindingCount()},
 			// The event is the plugin's own affair; what is bound to it is known all the same.

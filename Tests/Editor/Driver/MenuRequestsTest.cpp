@@ -27,13 +27,47 @@ namespace
 TEST_F(FMenuRequestsTest, ListTheToolbarsButtons)
 {
 	const FAnswer Buttons = Ask({{"do", "toolbar"}})["buttons"];
-	ASSERT_EQ(Buttons.size(), 4U);
+	ASSERT_EQ(Buttons.size(), 7U);
 	const FAnswer Expected = {{"name", "TestMenu"}, {"label", "Test Menu"}, {"labelId", "TestMenu,Label"},
 		{"tooltip", "Opens the menu"}, {"tooltipId", "TestMenu,ButtonTip"},
 		{"icon", {{"style", "TestStyle"}, {"brush", "Test.Icon"}}}, {"section", "First"}, {"kind", "combo"}};
-	EXPECT_EQ(Buttons[0].dump(), Expected.dump());
-	EXPECT_EQ(Buttons[3]["section"], "Second");
-	EXPECT_EQ(Buttons[3]["labelId"], nullptr);
+	EXPECT_EQ(Buttons[3].dump(), Expected.dump());
+	EXPECT_EQ(Buttons[6]["section"], "Second");
+	EXPECT_EQ(Buttons[6]["labelId"], nullptr);
+}
+
+TEST_F(FMenuRequestsTest, ListTheEditorsOwnButtonsFirst)
+{
+	const FAnswer Buttons = Ask({{"do", "toolbar"}})["buttons"];
+	const FAnswer Save = {{"name", "Save"}, {"label", "Save Current"}, {"labelId", "LevelToolBar,Save"},
+		{"tooltip", "Saves the current level to disk (Ctrl+S)"}, {"tooltipId", "LevelToolBar,SaveTip"},
+		{"icon", nullptr}, {"section", "File"}, {"kind", "button"}};
+	EXPECT_EQ(Buttons[0].dump(), Save.dump());
+	EXPECT_EQ(Buttons[1]["name"], "Undo");
+	EXPECT_EQ(Buttons[1]["section"], "Edit");
+	EXPECT_EQ(Buttons[1]["kind"], "button");
+	EXPECT_EQ(Buttons[2]["name"], "Redo");
+	EXPECT_EQ(Buttons[2]["section"], "Edit");
+}
+
+TEST_F(FMenuRequestsTest, TellWhatCanBeUndoneAndRedoneInTheButtonsTooltips)
+{
+	EXPECT_EQ(Ask({{"do", "toolbar"}})["buttons"][1]["tooltip"], "Undo (Ctrl+Z)");
+	Ask({{"do", "place"}, {"class", "Actor"}, {"location", {0, 0, 0}}, {"rotation", {0, 0, 0}}});
+	EXPECT_EQ(Ask({{"do", "toolbar"}})["buttons"][1]["tooltip"], "Undo: Create Actors (Ctrl+Z)");
+	EXPECT_EQ(Ask({{"do", "toolbar"}})["buttons"][2]["tooltip"], "Redo (Ctrl+Y)");
+	Ask({{"do", "undo"}});
+	EXPECT_EQ(Ask({{"do", "toolbar"}})["buttons"][1]["tooltip"], "Undo (Ctrl+Z)");
+	EXPECT_EQ(Ask({{"do", "toolbar"}})["buttons"][2]["tooltip"], "Redo: Create Actors (Ctrl+Y)");
+}
+
+TEST_F(FMenuRequestsTest, ChooseNothingOfAPlainButton)
+{
+	Ask({{"do", "place"}, {"class", "Actor"}, {"location", {0, 0, 0}}, {"rotation", {0, 0, 0}}});
+	EXPECT_EQ(
+		GetRefusal({{"do", "choose"}, {"button", "Undo"}, {"entry", "Undo"}}), "the button \"Undo\" opens no menu");
+	EXPECT_EQ(GetRefusal({{"do", "menu"}, {"button", "Redo"}}), "the button \"Redo\" is disabled");
+	EXPECT_EQ(Ask({{"do", "level"}})["actors"].size(), 1U);
 }
 
 TEST_F(FMenuRequestsTest, ShowAMenuWithItsSections)
@@ -85,11 +119,11 @@ TEST_F(FMenuRequestsTest, AnswerWhyNothingOpensOrIsChosen)
 TEST_F(FPluginMenuRequestsTest, ShowThePluginsButtonAndMenu)
 {
 	const FAnswer Buttons = Ask({{"do", "toolbar"}})["buttons"];
-	ASSERT_EQ(Buttons.size(), 1U);
-	EXPECT_EQ(Buttons[0]["name"], "Corvane");
-	EXPECT_EQ(Buttons[0]["section"], "Settings");
-	EXPECT_EQ(Buttons[0]["tooltipId"], "FQuillonEditorModule,CorvaneBtnTootlip");
-	EXPECT_EQ(Buttons[0]["icon"]["brush"], "ZAVQuillOn.PluginTaskbarIcon");
+	ASSERT_EQ(Buttons.size(), 4U);
+	EXPECT_EQ(Buttons[3]["name"], "Corvane");
+	EXPECT_EQ(Buttons[3]["section"], "Settings");
+	EXPECT_EQ(Buttons[3]["tooltipId"], "FQuillonEditorModule,CorvaneBtnTootlip");
+	EXPECT_EQ(Buttons[3]["icon"]["brush"], "ZAVQuillOn.PluginTaskbarIcon");
 	const FAnswer Shown = Ask({{"do", "menu"}, {"button", "Corvane"}});
 	EXPECT_EQ(Shown["searchable"], true);
 	EXPECT_EQ(Shown["maxHeight"], 1000);

@@ -151,7 +151,7 @@ int32 FToolMenusStartup::GetStartupCallbackCount()
 	return GetStartupCallbacks().Num();
 }
 
-int32 FToolMenusStartup::GetOwnerCount()
+int32 FToolMenusStartup::GetOwnerCount(const FToolMenuOwner& Apart)
 {
 	TArray<FToolMenuOwner> Owners;
 	for (const UToolMenu* Menu : Singleton ? Singleton->Menus : TArray<UToolMenu*>())
@@ -160,7 +160,7 @@ int32 FToolMenusStartup::GetOwnerCount()
 		{
 			for (const FToolMenuEntry& Entry : Section.Blocks)
 			{
-				if (Entry.Owner.IsSet())
+				if (Entry.Owner.IsSet() && Entry.Owner != Apart)
 				{
 					Owners.AddUnique(Entry.Owner);
 				}

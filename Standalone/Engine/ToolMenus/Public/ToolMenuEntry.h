@@ -34,6 +34,12 @@ struct TOOLMENUS_API FToolMenuEntry
 		const TAttribute<FSlateIcon>& InIcon = TAttribute<FSlateIcon>(), bool bInSimpleComboBox = false,
 		FName InTutorialHighlightName = NAME_None);
 
+	/** A toolbar button that does the action itself; its owner is the current one. */
+	static FToolMenuEntry InitToolBarButton(const FName InName, const FToolUIActionChoice& InAction,
+		const TAttribute<FText>& InLabel = TAttribute<FText>(),
+		const TAttribute<FText>& InToolTip = TAttribute<FText>(),
+		const TAttribute<FSlateIcon>& InIcon = TAttribute<FSlateIcon>(), FName InTutorialHighlightName = NAME_None);
+
 	FName Name;
 	FToolMenuOwner Owner;
 	EMultiBlockType Type = EMultiBlockType::None;

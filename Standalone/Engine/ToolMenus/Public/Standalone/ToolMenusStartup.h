@@ -1,7 +1,7 @@
 // Copyright Corvane. MIT License.
 #pragma once
 
-#include "CoreTypes.h"
+#include "ToolMenuOwner.h"
 
 /** The begin and end of the menus' time. The real engine does both itself, as its editor starts and exits. */
 class TOOLMENUS_API FToolMenusStartup
@@ -16,6 +16,6 @@ public:
 	/** How many start-up callbacks wait. */
 	static int32 GetStartupCallbackCount();
 
-	/** How many owners have entries in any menu. */
-	static int32 GetOwnerCount();
+	/** How many owners have entries in any menu, this one not counted. */
+	static int32 GetOwnerCount(const FToolMenuOwner& Apart = FToolMenuOwner());
 };

@@ -7,5 +7,6 @@
 enum class EMultiBlockType : uint8
 {
 	None,
+	ToolBarButton,
 	ToolBarComboButton,
 };
