@@ -15,6 +15,7 @@
 #include "Kismet/GameplayStatics.h"
 #include "SaveGameFolder.h"
 #include "PlatformFeatures.h"
+#include "SlotFile.h"
 #include "ZAVSaveGame.h"
 
 // What a save costs: the object's properties into bytes, and those into a file that is whole after any crash. In memory
@@ -24,8 +25,9 @@ namespace
 {
 	using FClock = std::chrono::steady_clock;
 
-	constexpr int NumInMemory = 1000;
-	constexpr int NumOnDisk = 100;
+	constexpr size_t NumInMemory = 1000;
+	/** Fewer, as a disk takes long when others use it as well. */
+	constexpr size_t NumOnDisk = 100;
 
 	/** A new folder in Parent, removed with the object. */
 	class FFolder
@@ -48,14 +50,13 @@ namespace
 		}
 
 		std::string Path;
-		bool bMade;
 	};
 
 	/** One measurement: the median of Count calls. */
 	template <typename BodyType>
-	void MeasureMedian(benchmark::State& State, int Count, BodyType Body)
+	void MeasureMedian(benchmark::State& State, size_t Count, BodyType Body)
 	{
-		std::vector<double> Seconds(static_cast<size_t>(Count));
+		std::vector<double> Seconds(Count);
 		for (auto _ : State)
 		{
 			for (double& Second : Seconds)
@@ -69,8 +70,8 @@ namespace
 					return;
 				}
 			}
-			std::nth_element(Seconds.begin(), Seconds.begin() + Count / 2, Seconds.end());
-			State.SetIterationTime(Seconds[static_cast<size_t>(Count / 2)]);
+			std::nth_element(Seconds.begin(), Seconds.begin() + static_cast<std::ptrdiff_t>(Count / 2), Seconds.end());
+			State.SetIterationTime(Seconds[Count / 2]);
 		}
 	}
 
@@ -82,7 +83,7 @@ namespace
 		return Game;
 	}
 
-	void Save(benchmark::State& State, const char* Parent, int Count)
+	void Save(benchmark::State& State, const char* Parent, size_t Count)
 	{
 		const FFolder Folder(Parent);
 		FSaveGameFolder Platform(Folder.Path);
@@ -93,7 +94,7 @@ namespace
 		IPlatformFeaturesModule::Get().SetSaveGameSystem(nullptr);
 	}
 
-	/** The least that any save that outlives a crash does: write the bytes, wait for them, rename the file. */
+	/** The least that any save that outlives a crash does: write the slot's bytes, wait for them, rename the file. */
 	bool WriteAtLeast(const std::string& Temporary, const std::string& Path, const std::string& Bytes)
 	{
 		const int File = ::open(Temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
@@ -102,12 +103,12 @@ namespace
 		return bWritten && std::rename(Temporary.c_str(), Path.c_str()) == 0;
 	}
 
-	void SaveFloor(benchmark::State& State, const char* Parent, int Count)
+	void SaveFloor(benchmark::State& State, const char* Parent, size_t Count)
 	{
 		const FFolder Folder(Parent);
 		TArray<uint8> Payload;
 		UGameplayStatics::SaveGameToMemory(MakeGame(), Payload);
-		const std::string Bytes(Payload.begin(), Payload.end());
+		const std::string Bytes = FSlotFile::Pack(Payload);
 		const std::string Temporary = Folder.Path + "/temporary";
 		const std::string Path = Folder.Path + "/slot";
 		MeasureMedian(State, Count, [&] { return WriteAtLeast(Temporary, Path, Bytes); });

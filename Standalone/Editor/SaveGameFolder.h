@@ -1,6 +1,7 @@
 // Copyright Corvane. MIT License.
 #pragma once
 
+#include <chrono>
 #include <string>
 
 #include "CoreMinimal.h"
@@ -10,8 +11,8 @@
  * Save slots as files, SaveGames/SLOT.sav in the folder that the user names with --saved. Users share their slots.
  *
  * A slot's file is replaced as a whole, so that a crash at any moment leaves the old or the new one; of two editors
- * that save at once the last one wins. What stands in a slot's place and can't be read, or holds an object of another
- * class, is never lost: before it is replaced it is kept as SLOT.damaged-N.sav.
+ * that save at once the last one wins. What stands in a slot's place and can't be read as an object, or is one of
+ * another class, is never lost: before it is replaced it is kept as SLOT.damaged-N.sav.
  *
  * What fails is told in one line on standard error, as callers of save games seldom look.
  */
@@ -21,7 +22,10 @@ public:
 	/** The folder and those above it are made by the first save. */
 	explicit FSaveGameFolder(const std::string& SavedDir);
 
-	/** @return false, with one line, for a path that is neither a folder nor free to become one. */
+	/**
+	 * @return false, with one line, for a path that is neither a folder nor free to become one: below a file, or behind
+	 * a symbolic link that leads to nothing. That SaveGames in it is a file is told when a game is saved.
+	 */
 	static bool Check(const std::string& SavedDir, std::string& OutError);
 
 	virtual bool DoesSaveGameExist(const TCHAR* Name, const int32 UserIndex) override;
@@ -40,8 +44,12 @@ public:
 private:
 	/** @return false, with one line, for a name that can't be a slot's. */
 	bool FindPath(const TCHAR* Name, std::string& OutPath, std::string& OutError) const;
-	bool Save(const TCHAR* Name, const TArray<uint8>& Data, std::string& OutError) const;
+	bool Save(const TCHAR* Name, const TArray<uint8>& Data, std::string& OutError);
 	bool Load(const TCHAR* Name, TArray<uint8>& OutData, std::string& OutError) const;
 
+	/** From time to time, before Path is written: what killed processes left there, or where it leads to. */
+	void RemoveLeftOver(const std::string& Path);
+
 	std::string Folder;
+	std::chrono::steady_clock::time_point NextRemoval;
 };

@@ -12,9 +12,9 @@ namespace
 	/** The mark and three numbers. */
 	constexpr size_t HeaderSize = Mark.size() + size_t(3) * 4;
 
-	using FChecksumTables = std::array<std::array<uint32_t, 256>, 4>;
+	using FChecksumTables = std::array<std::array<uint32_t, 256>, 8>;
 
-	/** What each byte adds to the checksum, at the end of four bytes and up to three before it. */
+	/** What each byte adds to the checksum, at the end of eight bytes and up to seven before it. */
 	constexpr FChecksumTables MakeChecksumTables()
 	{
 		FChecksumTables Tables{};
@@ -38,19 +38,26 @@ namespace
 		return Tables;
 	}
 
+	/** Little-endian. */
+	uint32_t LoadFour(const uint8* Bytes)
+	{
+		return Bytes[0] | uint32_t(Bytes[1]) << 8U | uint32_t(Bytes[2]) << 16U | uint32_t(Bytes[3]) << 24U;
+	}
+
 	/** CRC-32 as in PNG and gzip: finds each single flipped bit, and each run of up to 32. */
 	uint32_t GetChecksum(const uint8* Bytes, size_t Count)
 	{
 		static constexpr FChecksumTables Tables = MakeChecksumTables();
 		uint32_t Remainder = 0xFFFFFFFFU;
 		size_t Index = 0;
-		// Four at a time, as each step waits for the one before.
-		for (; Index + 4 <= Count; Index += 4)
+		// Eight at a time, as each step waits for the one before.
+		for (; Index + 8 <= Count; Index += 8)
 		{
-			Remainder ^= Bytes[Index] | uint32_t(Bytes[Index + 1]) << 8U | uint32_t(Bytes[Index + 2]) << 16U |
-				uint32_t(Bytes[Index + 3]) << 24U;
-			Remainder = Tables[3][Remainder & 0xFFU] ^ Tables[2][(Remainder >> 8U) & 0xFFU] ^
-				Tables[1][(Remainder >> 16U) & 0xFFU] ^ Tables[0][Remainder >> 24U];
+			Remainder ^= LoadFour(Bytes + Index);
+			const uint32_t Next = LoadFour(Bytes + Index + 4);
+			Remainder = Tables[7][Remainder & 0xFFU] ^ Tables[6][(Remainder >> 8U) & 0xFFU] ^
+				Tables[5][(Remainder >> 16U) & 0xFFU] ^ Tables[4][Remainder >> 24U] ^ Tables[3][Next & 0xFFU] ^
+				Tables[2][(Next >> 8U) & 0xFFU] ^ Tables[1][(Next >> 16U) & 0xFFU] ^ Tables[0][Next >> 24U];
 		}
 		for (; Index < Count; ++Index)
 		{

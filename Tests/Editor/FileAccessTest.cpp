@@ -1,5 +1,6 @@
 // Copyright Corvane. MIT License.
 #include "FileAccess.h"
+#include "FileSystemFault.h"
 #include "TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -10,12 +11,15 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cerrno>
+#include <chrono>
 #include <csignal>
 #include <cstdio>
 
 namespace
 {
 	constexpr size_t MaxSize = 1024;
+	constexpr uid_t Nobody = 65534;
 
 	std::string ReadErrorOf(const std::string& Path)
 	{
@@ -61,7 +65,6 @@ namespace
 	/** Replaces a file without the superuser's rights, which no file's rights bind. */
 	bool ReplaceFailsAsNobody(const std::string& Path)
 	{
-		constexpr uid_t Nobody = 65534;
 		std::string Error;
 		return (::geteuid() != 0 || ::setuid(Nobody) == 0) && !FFileAccess::Replace(Path, "new", Error) &&
 			Error == Path + ": Permission denied";
@@ -82,6 +85,41 @@ TEST(FFileAccess, RefusesALargerFile)
 	const FTemporaryFolder Folder;
 	const std::string Path = Folder.Write("a", std::string(MaxSize + 1, 'x'));
 	EXPECT_EQ(ReadErrorOf(Path), Path + ": larger than 0 MiB");
+}
+
+TEST(FFileAccess, ReadsAFileThatComesInPieces)
+{
+	const FTemporaryFolder Folder;
+	const std::string Path = Folder.Write("a", "all of the text");
+	std::string Bytes;
+	std::string Error;
+	const FFileSystemFault Fault("read", FFileSystemFault::OneByte);
+	ASSERT_TRUE(FFileAccess::Read(Path, MaxSize, Bytes, Error)) << Error;
+	EXPECT_EQ(Bytes, "all of the text");
+}
+
+TEST(FFileAccess, ReadsAFileThatIsShorterThanItWasMeasured)
+{
+	// The system gives each of these files a page.
+	std::string Bytes;
+	std::string Error;
+	ASSERT_TRUE(FFileAccess::Read("/sys/devices/system/cpu/online", 10000, Bytes, Error)) << Error;
+	EXPECT_GE(Bytes.size(), 2U);
+	EXPECT_EQ(Bytes.back(), '\n');
+}
+
+TEST(FFileAccess, RefusesAFileThatIsLargerThanItWasMeasured)
+{
+	// The system measures none of these files.
+	EXPECT_EQ(ReadErrorOf("/proc/self/maps"), "/proc/self/maps: File too large");
+}
+
+TEST(FFileAccess, SaysThatReadingFailed)
+{
+	const FTemporaryFolder Folder;
+	const std::string Path = Folder.Write("a", "text");
+	const FFileSystemFault Fault("read", EIO);
+	EXPECT_EQ(ReadErrorOf(Path), Path + ": Input/output error");
 }
 
 TEST(FFileAccess, RefusesToReadAMissingFile)
@@ -148,6 +186,67 @@ TEST(FFileAccess, FollowsASymbolicLink)
 	EXPECT_TRUE(std::filesystem::is_symlink(Folder.File("link")));
 }
 
+TEST(FFileAccess, MakesWhatALinkToNothingLeadsTo)
+{
+	const FTemporaryFolder Folder;
+	std::filesystem::create_directory(Folder.File("below"));
+	std::filesystem::create_symlink("below/second", Folder.File("first"));
+	std::filesystem::create_symlink("../target", Folder.File("below/second"));
+	std::filesystem::create_symlink(Folder.File("other"), Folder.File("whole"));
+	std::string Error;
+	ASSERT_TRUE(FFileAccess::Replace(Folder.File("first"), "new", Error)) << Error;
+	ASSERT_TRUE(FFileAccess::Replace(Folder.File("whole"), "other", Error)) << Error;
+	EXPECT_EQ(FTemporaryFolder::ReadFile(Folder.File("target")), "new");
+	EXPECT_EQ(FTemporaryFolder::ReadFile(Folder.File("other")), "other");
+	EXPECT_EQ(Folder.List(), (std::vector<std::string>{"below", "first", "other", "target", "whole"}));
+	EXPECT_TRUE(std::filesystem::is_symlink(Folder.File("first")));
+	EXPECT_TRUE(std::filesystem::is_symlink(Folder.File("below/second")));
+}
+
+TEST(FFileAccess, RefusesLinksThatLeadIntoMissingFoldersOrInACircle)
+{
+	const FTemporaryFolder Folder;
+	const std::string Path = Folder.File("link");
+	std::filesystem::create_symlink("none/target", Path);
+	EXPECT_EQ(ReplaceErrorOf(Path), Folder.File("none/target: No such file or directory"));
+	EXPECT_TRUE(std::filesystem::is_symlink(Path));
+	std::filesystem::create_symlink("circle", Folder.File("circle"));
+	EXPECT_EQ(ReplaceErrorOf(Folder.File("circle")), Folder.File("circle: Too many levels of symbolic links"));
+	EXPECT_EQ(Folder.List(), (std::vector<std::string>{"circle", "link"}));
+}
+
+TEST(FFileAccess, TellsWhetherTheSystemOrTheFileIsTheReason)
+{
+	const FTemporaryFolder Folder;
+	for (const auto& [Path, Code] :
+		{std::pair(Folder.File("none"), ENOENT), std::pair(Folder.Write("file", "") + "/below", ENOTDIR),
+			std::pair(Folder.File(""), 0), std::pair(Folder.Write("large", std::string(MaxSize + 1, 'x')), 0)})
+	{
+		std::string Bytes;
+		std::string Error;
+		int ReadCode = -1;
+		EXPECT_FALSE(FFileAccess::Read(Path, MaxSize, Bytes, Error, &ReadCode));
+		EXPECT_EQ(ReadCode, Code) << Path;
+	}
+}
+
+TEST(FFileAccess, RemovesWhatIsLeftBesideAFileAndBesideWhatItLeadsTo)
+{
+	const FTemporaryFolder Folder;
+	std::filesystem::create_directory(Folder.File("other"));
+	std::filesystem::create_symlink("other/target", Folder.File("link"));
+	for (const char* Name : {".quillon-aaaaaa", "other/.quillon-bbbbbb"})
+	{
+		std::filesystem::last_write_time(
+			Folder.Write(Name, ""), std::filesystem::file_time_type::clock::now() - std::chrono::hours(2));
+	}
+	FFileAccess::RemoveLeftOver(Folder.File("file"));
+	EXPECT_EQ(Folder.List(), (std::vector<std::string>{"link", "other"}));
+	EXPECT_FALSE(std::filesystem::is_empty(Folder.File("other")));
+	FFileAccess::RemoveLeftOver(Folder.File("link"));
+	EXPECT_TRUE(std::filesystem::is_empty(Folder.File("other")));
+}
+
 TEST(FFileAccess, RefusesToWriteBelowARegularFile)
 {
 	const FTemporaryFolder Folder;
@@ -192,6 +291,22 @@ TEST(FFileAccess, RefusesAFileWithoutTheRightToWrite)
 	ASSERT_EQ(::chmod(Path.c_str(), 0444), 0);
 	ASSERT_EQ(::chmod(Folder.File("").c_str(), 0777), 0);
 	EXPECT_EQ(RunInChild([&Path] { return ReplaceFailsAsNobody(Path); }), 0);
+	EXPECT_EQ(FTemporaryFolder::ReadFile(Path), "old");
+}
+
+TEST(FFileAccess, RefusesAFileThatIsItsOwnersOnly)
+{
+	const FTemporaryFolder Folder;
+	const std::string Path = Folder.Write("a", "old");
+	ASSERT_EQ(::chmod(Folder.File("").c_str(), 0777), 0);
+	if (::geteuid() == 0)
+	{
+		ASSERT_EQ(::chmod(Path.c_str(), 0644), 0);
+		EXPECT_EQ(RunInChild([&Path] { return ReplaceFailsAsNobody(Path); }), 0) << "somebody else's";
+		ASSERT_EQ(::chown(Path.c_str(), Nobody, Nobody), 0);
+	}
+	ASSERT_EQ(::chmod(Path.c_str(), 0444), 0);
+	EXPECT_EQ(RunInChild([&Path] { return ReplaceFailsAsNobody(Path); }), 0) << "one's own";
 	EXPECT_EQ(FTemporaryFolder::ReadFile(Path), "old");
 }
 

@@ -5,8 +5,20 @@
 #include <filesystem>
 #include <fstream>
 
+#include "ZAVSaveGame.h"
+
 namespace
 {
+	std::string ToBytes(const std::string& Text)
+	{
+		std::string Bytes = {static_cast<char>(Text.size()), 0, 0, 0};
+		for (const char Unit : Text)
+		{
+			Bytes += {Unit, 0};
+		}
+		return Bytes;
+	}
+
 	TArray<uint8> ToArray(const std::string& Bytes)
 	{
 		return TArray<uint8>(reinterpret_cast<const uint8*>(Bytes.data()), static_cast<int32>(Bytes.size()));
@@ -15,12 +27,19 @@ namespace
 
 std::string FSaveGameFolderFixture::MakePayload(const std::string& ClassName, const std::string& Rest)
 {
-	std::string Payload = {static_cast<char>(ClassName.size()), 0, 0, 0};
-	for (const char Unit : ClassName)
+	return ToBytes(ClassName) + Rest;
+}
+
+std::string FSaveGameFolderFixture::MakeGame(const std::string& Value)
+{
+	UZAVSaveGame::StaticClass();
+	std::string Length(4, '\0');
+	for (size_t Byte = 0; Byte < Length.size(); ++Byte)
 	{
-		Payload += {Unit, 0};
+		Length[Byte] = static_cast<char>(Value.size() >> (Byte * 8));
 	}
-	return Payload + Rest;
+	return MakePayload(
+		"/Script/Quillon.ZAVSaveGame", ToBytes("Later") + ToBytes("bytes") + Length + Value + ToBytes(""));
 }
 
 bool FSaveGameFolderFixture::Save(const std::string& Slot, const std::string& Payload)
@@ -61,6 +80,18 @@ std::vector<std::string> FSaveGameFolderFixture::List() const
 	}
 	std::sort(Names.begin(), Names.end());
 	return Names;
+}
+
+void FSaveGameFolderFixture::ExpectReplacedWithACopy(const std::string& Reason)
+{
+	const std::string Aside = File("Slot.damaged-1.sav");
+	const std::string Bytes = FTemporaryFolder::ReadFile(File("Slot.sav"));
+	EXPECT_TRUE(Save("Slot", MakeGame("new")));
+	EXPECT_EQ(Errors, File("Slot.sav: ") + Reason + "; kept as " + Aside + '\n');
+	EXPECT_EQ(FTemporaryFolder::ReadFile(Aside), Bytes);
+	EXPECT_EQ(Load("Slot"), MakeGame("new"));
+	std::filesystem::remove(Aside);
+	std::filesystem::remove(File("Slot.sav"));
 }
 
 void FSaveGameFolderFixture::ExpectKeptAside(

@@ -1,5 +1,6 @@
 // Copyright Corvane. MIT License.
 // Save games of processes that run into limits, race each other and are killed.
+#include "FileSystemFault.h"
 #include "SaveGameFolderFixture.h"
 
 #include <sys/resource.h>
@@ -7,6 +8,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <chrono>
 #include <csignal>
 #include <filesystem>
@@ -53,14 +55,20 @@ protected:
 	/** A payload that tells who wrote it, and of which one bit can't be missing. */
 	static std::string MakeOwn(char Writer, int Round)
 	{
-		return MakePayload("/Script/A.B", std::string(static_cast<size_t>(2000 + Round), Writer));
+		return MakeGame(std::string(static_cast<size_t>(2000 + Round), Writer));
+	}
+
+	static char GetWriter(const std::string& Payload)
+	{
+		// Behind it stands an empty name, which ends the members.
+		return Payload[Payload.size() - 5];
 	}
 
 	static bool IsWhole(const std::string& Payload)
 	{
-		const size_t Begin = MakePayload("/Script/A.B", "").size();
-		return Payload.size() >= Begin + 2000 &&
-			Payload == MakeOwn(Payload.back(), static_cast<int>(Payload.size() - Begin) - 2000);
+		const size_t Rest = MakeGame("").size();
+		return Payload.size() >= Rest + 2000 &&
+			Payload == MakeOwn(GetWriter(Payload), static_cast<int>(Payload.size() - Rest) - 2000);
 	}
 
 	bool SaveQuietly(const std::string& Payload)
@@ -69,18 +77,20 @@ protected:
 			TArray<uint8>(reinterpret_cast<const uint8*>(Payload.data()), static_cast<int32>(Payload.size())));
 	}
 
-	/** Names in SaveGames but for what a killed process could not take away any more. */
-	std::vector<std::string> ListVisible() const
+	/** Makes what killed processes have left two hours older. @return how many there are. */
+	int AgeTemporaries() const
 	{
-		std::vector<std::string> Names;
+		int Count = 0;
 		for (const std::string& Name : List())
 		{
-			if (Name.front() != '.')
+			if (Name.front() == '.')
 			{
-				Names.push_back(Name);
+				const auto Written = std::filesystem::last_write_time(File(Name));
+				std::filesystem::last_write_time(File(Name), Written - std::chrono::hours(2));
+				++Count;
 			}
 		}
-		return Names;
+		return Count;
 	}
 };
 
@@ -185,7 +195,26 @@ TEST_F(FSaveGameFolderProcess, IsTheOldOrTheNewOneWhenASaveIsKilled)
 		ASSERT_EQ(::kill(Child, SIGKILL), 0);
 		ASSERT_EQ(WaitFor(Child), SIGKILL);
 		const std::string After = Load("Slot");
-		ASSERT_TRUE(After == Before || (IsWhole(After) && After.back() == Writer)) << Errors;
+		ASSERT_TRUE(After == Before || (IsWhole(After) && GetWriter(After) == Writer)) << Errors;
 	}
-	EXPECT_EQ(ListVisible(), std::vector<std::string>{"Slot.sav"});
+	// The next editor, some hours later.
+	EXPECT_GT(AgeTemporaries(), 0);
+	FSaveGameFolder Next(Folder.File("saved"));
+	EXPECT_TRUE(Next.SaveGame(false, TEXT("Other"), 0, {1}));
+	EXPECT_EQ(List(), (std::vector<std::string>{"Other.sav", "Slot.sav"}));
+}
+
+TEST_F(FSaveGameFolderProcess, RefusesToReplaceWhatItHasNoRoomToCopy)
+{
+	Write("Slot.sav", std::string(5000, 'x'));
+	const pid_t Child = StartChild(
+		[this]
+		{
+			const FFileSystemFault NoLinks("linkat", EPERM);
+			return LimitFileSize(1000) && !Save("Slot", "new") &&
+				Errors == File("Slot.sav: not a save game, which can't be kept aside: File too large\n");
+		});
+	EXPECT_EQ(WaitFor(Child), 0);
+	EXPECT_EQ(List(), std::vector<std::string>{"Slot.sav"});
+	EXPECT_EQ(FTemporaryFolder::ReadFile(File("Slot.sav")), std::string(5000, 'x'));
 }

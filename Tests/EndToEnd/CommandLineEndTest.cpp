@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace
 {
@@ -20,8 +21,13 @@ namespace
 	}
 }
 
-TEST(FProgram, WithoutArgumentsPointsToCreate)
+TEST(FProgram, WithoutADisplaySaysSoAndPointsToCreate)
 {
+	for (const char* Variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+	{
+		::unsetenv(Variable);
+	}
+	ExpectUsageError({}, "there is no display");
 	ExpectUsageError({}, "quillon-editor create NAME");
 }
 
@@ -35,12 +41,36 @@ TEST(FProgram, RefusesANameThatIsNotUtf8)
 	ExpectUsageError({"create", "a\xFF"}, "not well-formed UTF-8");
 }
 
-TEST(FProgram, DoesNothingWhenAScreenshotIsAskedFor)
+TEST(FProgram, TakesAPictureOfTheOutcome)
 {
 	const FTemporaryFolder Folder;
-	ExpectUsageError({"create", "Main", "--screenshot", Folder.File("a.png"), "--save", Folder.File("level.json")},
-		"needs the editor window");
+	const FChildProcess Process = FChildProcess::Run({"create", "Main", "--screenshot", Folder.File("a.png")});
+	EXPECT_EQ(Process.Status, 0) << Process.Errors;
+	EXPECT_EQ(Process.Errors, "");
+	EXPECT_EQ(FTemporaryFolder::ReadFile(Folder.File("a.png")).substr(1, 3), "PNG");
+}
+
+TEST(FProgram, SavesNothingWhenItsPictureCannotBeWritten)
+{
+	const FTemporaryFolder Folder;
+	ExpectUsageError(
+		{"create", "Main", "--screenshot", Folder.File("no/a.png"), "--save", Folder.File("level.json")}, "no/a.png");
 	EXPECT_TRUE(Folder.List().empty());
+}
+
+TEST(FProgram, DrivesInTheWindow)
+{
+	const FTemporaryFolder Folder;
+	const std::string Picture = Folder.File("a.png");
+	const std::string Recording = Folder.Write("recording.jsonl",
+		"{\"do\":\"screenshot\",\"file\":\"" + Picture + "\",\"tab\":\"Details\"}\n" +
+			"{\"do\":\"screenshot\",\"file\":\"" + Picture + "\",\"tab\":\"Nothing\"}\n");
+	const FChildProcess Process = FChildProcess::Run({"drive", Recording, "--view", "qt"});
+	EXPECT_EQ(Process.Status, 0) << Process.Errors;
+	EXPECT_EQ(Process.Output,
+		"{\"do\":\"screenshot\",\"ok\":true}\n{\"do\":\"screenshot\",\"ok\":false,"
+		"\"error\":\"the window has no panel or open tab \\\"Nothing\\\"\"}\n");
+	EXPECT_EQ(FTemporaryFolder::ReadFile(Picture).substr(1, 3), "PNG");
 }
 
 TEST(FProgram, PrintsItsHelpAndVersion)

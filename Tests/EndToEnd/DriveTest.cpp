@@ -206,14 +206,6 @@ TEST(Drive, RefusesFilesThatCannotBeRead)
 	}
 }
 
-TEST(Drive, HasNoWindow)
-{
-	const FChildProcess Run = FChildProcess::Run({"drive", "--view", "qt"});
-	EXPECT_EQ(Run.Status, 2);
-	EXPECT_EQ(Run.Output, "");
-	EXPECT_EQ(std::count(Run.Errors.begin(), Run.Errors.end(), '\n'), 1) << Run.Errors;
-}
-
 TEST(Drive, TakesTheNullViewAndAFolderForWhatIsSaved)
 {
 	const FTemporaryFolder Folder;
@@ -236,6 +228,24 @@ TEST(Drive, RefusesAFileAsTheFolderForWhatIsSaved)
 		EXPECT_EQ(Run.Status, 2);
 		EXPECT_EQ(Run.Output, "");
 		EXPECT_EQ(Run.Errors, Saved + ": Not a directory\n");
+	}
+}
+
+TEST(Drive, RefusesALinkToNothingAsTheFolderForWhatIsSaved)
+{
+	const FTemporaryFolder Folder;
+	const std::string Link = Folder.File("link");
+	std::filesystem::create_symlink("none", Link);
+	std::filesystem::create_directory(Folder.File("saved"));
+	std::filesystem::create_symlink("none", Folder.File("saved/SaveGames"));
+	for (const auto& [Saved, Culprit] :
+		{std::pair(Link, Link), std::pair(Folder.File("saved"), Folder.File("saved/SaveGames"))})
+	{
+		const FChildProcess Run =
+			FChildProcess::Run({"drive", Folder.Write("recording.jsonl", Collect + '\n'), "--saved", Saved});
+		EXPECT_EQ(Run.Status, 2);
+		EXPECT_EQ(Run.Output, "");
+		EXPECT_EQ(Run.Errors, Culprit + ": a symbolic link that leads to nothing\n");
 	}
 }
 

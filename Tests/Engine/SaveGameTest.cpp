@@ -154,6 +154,21 @@ TEST_F(FSaveGame, PassesOverUnknownMembersWhateverTheyHold)
 	EXPECT_EQ(Loaded->Number, 11);
 }
 
+TEST_F(FSaveGame, FindsMembersInWhateverOrderAndTakesTheLastOfTwo)
+{
+	FSaveGameBytes Bytes;
+	Bytes.Text(ClassName1);
+	Bytes.Member(TEXT("Fraction"), TEXT("float"), FSaveGameBytes().Number(0));
+	Bytes.Member(TEXT("Number"), TEXT("int32"), FSaveGameBytes().Number(11));
+	Bytes.Member(TEXT("Number"), TEXT("int32"), FSaveGameBytes().Number(12));
+	Bytes.Member(TEXT("bFlag"), TEXT("bool"), FSaveGameBytes().Byte(0)).End();
+	const UTestSaveGame1* const Loaded = Load1(Bytes);
+	ASSERT_NE(Loaded, nullptr);
+	EXPECT_EQ(Loaded->Fraction, 0.0f);
+	EXPECT_EQ(Loaded->Number, 12);
+	EXPECT_FALSE(Loaded->bFlag);
+}
+
 TEST_F(FSaveGame, IsNullWhereverItsBytesAreCutOff)
 {
 	const TArray<uint8> Bytes = Save(MakeSample());

@@ -26,6 +26,7 @@ bool FTestSaveGames::DoesSaveGameExist(const TCHAR* Name, const int32 UserIndex)
 bool FTestSaveGames::SaveGame(bool, const TCHAR* Name, const int32 UserIndex, const TArray<uint8>& Data)
 {
 	Calls.push_back(Describe("save", Name, UserIndex));
+	OnSave();
 	Bytes = bSaves ? Data : Bytes;
 	return bSaves;
 }

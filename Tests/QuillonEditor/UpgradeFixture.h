@@ -26,6 +26,7 @@ public:
 	/** The slot is there only for those who load it unasked. */
 	bool bHidden = false;
 	TFunction<void()> OnExists = []() {};
+	TFunction<void()> OnSave = []() {};
 };
 
 /** An editor that saves games to a folder of its own, where releases are announced and notifications answered. */

@@ -77,7 +77,8 @@ void FQuillonEditorModule::ShutdownModule()
 	// 5. The wizard's tab spawner, which is bound to this object.
 	FGlobalTabmanager::Get()->UnregisterNomadTabSpawner(QuillonEditorTabs::CineStreamWizard);
 
-	// 6. The style set, last: whatever still showed one of its brushes is gone by now.
+	// 6. The style set, last: nothing that is registered names one of its brushes any more. What is still on screen, a
+	// tab or a notification, does: an editor that goes on has to close it first.
 	FQuillonEditorStyle::Shutdown();
 
 	// The details layouts stay registered. Their factories are plain functions, which the library keeps: a panel that

@@ -128,8 +128,8 @@ void FQuillonEditorModule::ShowUpgradeNotification(const FString& Version, const
 
 void FQuillonEditorModule::CloseUpgradeNotification()
 {
-	// Of two notifications on screen this is the second, whichever of them was answered. The first one's buttons then
-	// find it gone: they do what they do, and the first stays.
+	// Of two notifications on screen this is the second, whichever of them was answered. Once it is gone, the first
+	// one's buttons close nothing; its "Skip version" skips and saves the release that was offered last, the second's.
 	const TSharedPtr<SNotificationItem> Notification = UpgradeNotification.Pin();
 	if (Notification.IsValid())
 	{

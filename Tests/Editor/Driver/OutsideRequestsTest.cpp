@@ -74,7 +74,7 @@ TEST_F(FOutsideRequestsTest, CountsTheSaveGamesThatWereWritten)
 	FSaveGameFolder SaveGames(Folder.File(""));
 	EXPECT_TRUE(SaveGames.SaveGame(false, TEXT("Slot"), 0, {1}));
 	EXPECT_FALSE(SaveGames.SaveGame(false, TEXT(".."), 0, {1}));
-	EXPECT_TRUE(SaveGames.SaveGame(false, TEXT("Slot"), 0, {1}));
+	EXPECT_TRUE(SaveGames.SaveGame(false, TEXT("Other"), 0, {1}));
 	EXPECT_EQ(GetOutside("counts")["saves"], 2);
 }
 

@@ -15,7 +15,8 @@
 #if WITH_DEV_AUTOMATION_TESTS
 
 // Each announcement leaves a notification on the tester's screen, to be answered with any of its buttons: nobody but
-// the module can close them. So there are few, and what they show is left to the eye.
+// the module can close them. So there are few, and what they show is left to the eye. So is skipping a release: that
+// takes a click, or another start of the module, which would free the brushes of notifications that are on screen.
 
 BEGIN_DEFINE_SPEC(FQuillonEditorUpgradeSpec, "Quillon.Upgrade",
 	EAutomationTestFlags::EditorContext | EAutomationTestFlags::ProductFilter)

@@ -32,6 +32,11 @@ namespace
 			: CastField<FTextProperty>(Property)  ? TEXT("FText")
 												  : TEXT("");
 	}
+
+	bool IsMember(const FProperty* Property, const FString& Name, const FString& Type)
+	{
+		return Property->GetName() == Name && GetType(Property) == Type;
+	}
 }
 
 bool FSaveGameArchive::SerializeMembers(const UStruct* Struct, void* Container)
@@ -48,6 +53,7 @@ bool FSaveGameArchive::LoadMembers(const UStruct* Struct, void* Container)
 	FString Name;
 	FString Type;
 	int32 Length = 0;
+	TFieldIterator<FProperty> It(Struct);
 	while (SerializeString(Name))
 	{
 		if (Name.IsEmpty())
@@ -61,16 +67,24 @@ bool FSaveGameArchive::LoadMembers(const UStruct* Struct, void* Container)
 			return false;
 		}
 		const int32 End = Position + Length;
-		TFieldIterator<FProperty> It(Struct);
-		while (It && !(It->GetName() == Name && GetType(*It) == Type))
+		// Mostly it is the one that follows the last, as they are saved in order.
+		if (!It || !IsMember(*It, Name, Type))
 		{
-			++It;
+			It = TFieldIterator<FProperty>(Struct);
+			while (It && !IsMember(*It, Name, Type))
+			{
+				++It;
+			}
 		}
 		if (It && !(SerializeValue(*It, It->ContainerPtrToValuePtr<void>(Container)) && Position == End))
 		{
 			return false;
 		}
 		Position = End;
+		if (It)
+		{
+			++It;
+		}
 	}
 	return false;
 }
@@ -178,7 +192,6 @@ bool FSaveGameArchive::SerializeString(FString& Value)
 	{
 		return false;
 	}
-	TArray<TCHAR> Units;
 	// The closing zero keeps the pointer valid.
 	Units.SetNum(Num + 1);
 	SerializeBytes(Units.GetData(), Num * 2);

@@ -15,7 +15,8 @@ class UStruct;
  * over, and one that is missing keeps its value. Transient properties and references to objects are left out, and of a
  * text all but its source. Numbers are as in memory, strings are UTF-16 after their length.
  *
- * Bytes may come from anywhere: no length in them is believed, and no more is allocated than they hold.
+ * Bytes may come from anywhere: no length in them is believed, and what is allocated stays in
+ * proportion to what they hold.
  */
 class FSaveGameArchive
 {
@@ -37,6 +38,8 @@ private:
 
 	TArray<uint8>& Bytes;
 	const bool bLoading;
+	/** Of the string that is read, kept to be used again. */
+	TArray<TCHAR> Units;
 	int32 Position = 0;
 	int32 Depth = 0;
 };

@@ -16,7 +16,7 @@ struct FSlateBrush;
 /**
  * A notification: an image, a text, and buttons that come and go with its completion state. The notification manager
  * makes it and keeps it while it is on screen; everybody else holds it weakly. Taken off the screen it is collapsed,
- * for whoever still holds it, and whatever it is told then has no effect.
+ * for whoever still holds it. Nothing is shown of what it is told then.
  */
 class SLATE_API SNotificationItem : public SCompoundWidget
 {
