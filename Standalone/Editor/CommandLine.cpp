@@ -9,11 +9,8 @@
 
 namespace
 {
-	constexpr const char* NoWindow =
-		"this version has no window yet; `quillon-editor create NAME` does the job without one (see --help)";
-	constexpr const char* NoQtView = "--view qt needs the editor window, which this build does not have";
 	constexpr const char* NoSavedDir = "--saved needs the name of a folder";
-	constexpr const char* NoScreenshot = "--screenshot needs the editor window, which this build does not have";
+	constexpr const char* NoScreenshot = "--screenshot needs the name of a file";
 
 	FCommandLine Refuse(const std::string& Reason)
 	{
@@ -38,8 +35,8 @@ namespace
 	struct FArguments
 	{
 		FCreateOptions Create;
-		std::optional<std::string> Screenshot;
 		FDriveOptions Drive;
+		FWindowOptions Window;
 		std::string View = "null";
 		CLI::App App{"The editor of the plugin, on its own stand-alone engine.", "quillon-editor"};
 		CLI::App* CreateCommand = nullptr;
@@ -56,6 +53,11 @@ namespace
 	FArguments::FArguments()
 	{
 		App.set_version_flag("--version", "quillon-editor " QUILLON_VERSION);
+		App.footer("Without a command the editor's window opens.");
+		App.add_option("--level", Window.LevelFile, "level to open in the window (default: an empty one)")
+			->type_name("FILE");
+		App.add_option("--saved", Window.SavedDir, "folder for what the window's editor remembers")->type_name("DIR");
+		App.add_option("--project", Window.ProjectDir, "folder that holds the plugin's descriptor")->type_name("DIR");
 		AddCreate();
 		AddDrive();
 	}
@@ -69,7 +71,7 @@ namespace
 		CreateCommand->add_option("--level", Create.LevelFile, "level to open first (default: an empty one)")
 			->type_name("FILE");
 		CreateCommand->add_option("--save", Create.SaveFile, "where to save the level afterwards")->type_name("FILE");
-		CreateCommand->add_option("--screenshot", Screenshot, "picture of the wizard (needs the window)")
+		CreateCommand->add_option("--screenshot", Create.ScreenshotFile, "where a picture of the outcome goes")
 			->type_name("PNG");
 		CreateCommand->add_flag("--json", Create.bJson, "print one JSON object instead of text");
 		CreateCommand->add_option("--saved", Create.SavedDir, "folder for what the editor remembers")->type_name("DIR");
@@ -88,17 +90,15 @@ namespace
 		DriveCommand->add_option("--saved", Drive.SavedDir, "folder for what the editor remembers")->type_name("DIR");
 		// What drive starts behind itself; without a group it stands in no help.
 		WorkerCommand = App.add_subcommand("drive-worker")->group("");
+		WorkerCommand->add_option("--view", View);
 		WorkerCommand->add_option("--saved", Drive.SavedDir)->type_name("DIR");
 	}
 
 	FCommandLine CheckDrive(const FArguments& Arguments)
 	{
-		if (Arguments.View != "null")
-		{
-			return Refuse(NoQtView);
-		}
 		FCommandLine Result;
 		Result.Drive = Arguments.Drive;
+		Result.Drive->bWindow = Arguments.View == "qt";
 		Result.Drive->bWorker = Arguments.WorkerCommand->parsed();
 		return Result;
 	}
@@ -106,7 +106,7 @@ namespace
 	FCommandLine Check(const FArguments& Arguments)
 	{
 		std::u16string Ignored;
-		if (Arguments.Create.SavedDir == "" || Arguments.Drive.SavedDir == "")
+		if (Arguments.Create.SavedDir == "" || Arguments.Drive.SavedDir == "" || Arguments.Window.SavedDir == "")
 		{
 			return Refuse(NoSavedDir);
 		}
@@ -116,9 +116,11 @@ namespace
 		}
 		if (!Arguments.CreateCommand->parsed())
 		{
-			return Refuse(NoWindow);
+			FCommandLine Result;
+			Result.Window = Arguments.Window;
+			return Result;
 		}
-		if (Arguments.Screenshot)
+		if (Arguments.Create.ScreenshotFile == "")
 		{
 			return Refuse(NoScreenshot);
 		}

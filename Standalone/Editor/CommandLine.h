@@ -22,6 +22,8 @@ struct FCreateOptions
 	std::optional<std::string> SaveFile;
 	std::optional<std::string> SavedDir;
 	std::optional<std::string> ProjectDir;
+	/** Where a picture of the window goes that shows the outcome. */
+	std::optional<std::string> ScreenshotFile;
 	bool bJson = false;
 };
 
@@ -31,8 +33,18 @@ struct FDriveOptions
 	/** The recording; without it requests come from standard input. */
 	std::optional<std::string> File;
 	std::optional<std::string> SavedDir;
+	/** Whether the editor is shown by the window, though nobody sees it; else by nothing. */
+	bool bWindow = false;
 	/** This process is the editor behind the one that was asked. */
 	bool bWorker = false;
+};
+
+/** How the window was asked for. Paths are the bytes of the command line. */
+struct FWindowOptions
+{
+	std::optional<std::string> LevelFile;
+	std::optional<std::string> SavedDir;
+	std::optional<std::string> ProjectDir;
 };
 
 /** The outcome of reading the command line: either a job, or texts to print and the status to end with. */
@@ -40,6 +52,7 @@ struct FCommandLine
 {
 	std::optional<FCreateOptions> Create;
 	std::optional<FDriveOptions> Drive;
+	std::optional<FWindowOptions> Window;
 	EExitStatus Status = EExitStatus::Done;
 	std::string Output;
 	std::string ErrorLine;

@@ -5,6 +5,7 @@
 #include "StandardOutput.h"
 
 #include "CreateJob.h"
+#include "EditorView.h"
 #include "EngineText.h"
 #include "LevelFile.h"
 #include "StandaloneEditor.h"
@@ -14,6 +15,21 @@ namespace
 	bool PrintReport(const FCreateOptions& Options, const FCreateReport& Report)
 	{
 		return FStandardOutput::Write(Options.bJson ? Report.ToJson() : Report.ToText());
+	}
+
+	/** The window as it looks when the job is done, taken where nobody sees it. */
+	bool SaveScreenshot(FStandaloneEditor& Editor, const std::string& File, std::string& OutError)
+	{
+		const std::unique_ptr<IEditorView> View = IEditorView::Make(EEditorViewUse::Script, OutError);
+		if (!View)
+		{
+			return false;
+		}
+		View->Attach(Editor);
+		View->Update();
+		const bool bSaved = View->SaveScreenshot(File, std::string(), OutError);
+		View->Detach();
+		return bSaved;
 	}
 
 	/** @return false on failure that is not the job's own, with a line unless it was printed already. */
@@ -26,6 +42,10 @@ namespace
 		if (!Editor.Start(EditorOptions, OutError) ||
 			(Options.LevelFile && !FLevelFile::Open(*Options.LevelFile, OutError)) ||
 			!FCreateJob(Editor).Run(FEngineText::FromUtf8(Options.Name), OutReport, OutError))
+		{
+			return false;
+		}
+		if (Options.ScreenshotFile && !SaveScreenshot(Editor, *Options.ScreenshotFile, OutError))
 		{
 			return false;
 		}

@@ -77,6 +77,7 @@ void FDetailsPanel::FollowSelection(UObject* /*Selection*/)
 
 void FDetailsPanel::Close()
 {
+	++Version;
 	Categories.clear();
 	Generators.clear();
 	// Numbers go on: one of a row that is gone must not name another.
@@ -135,6 +136,7 @@ void FDetailsPanel::AddGenerator(const TArray<UObject*>& Objects)
 void FDetailsPanel::ReadRows()
 {
 	bRowsOutdated = false;
+	++Version;
 	PlacesRead.clear();
 	Categories.clear();
 	for (size_t Index = 0; Index < Generators.size(); ++Index)
@@ -171,8 +173,10 @@ void FDetailsPanel::ReadNodes(const TArray<TSharedRef<IDetailTreeNode>>& Nodes, 
 		Row.bAdvanced = Nodes[Index]->IsAdvanced() || (Above && Above->bAdvanced);
 		if (Above)
 		{
+			Row.ParentId = Above->Id;
 			Row.Group = Above->Group;
 			Row.GroupIndex = Above->GroupIndex;
+			Row.bGroupCollapsed = Above->bGroupCollapsed;
 		}
 		Category.Rows.push_back(Row);
 		TArray<TSharedRef<IDetailTreeNode>> Below;
@@ -186,6 +190,7 @@ void FDetailsPanel::ReadGroup(const TSharedRef<IDetailTreeNode>& Group, const st
 	FDetailsRow Header(Group);
 	Header.Group = Header.GetName();
 	Header.GroupIndex = NumGroups++;
+	Header.bGroupCollapsed = Group->GetInitiallyCollapsed();
 	Header.bAdvanced = Group->IsAdvanced();
 	TArray<TSharedRef<IDetailTreeNode>> Rows;
 	Group->GetChildren(Rows);

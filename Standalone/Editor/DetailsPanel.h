@@ -38,6 +38,12 @@ public:
 	/** The rows as they are now; good until the next call of any function. */
 	const std::vector<FCategory>& GetCategories();
 
+	/** The rows as they were when last looked at; changes nothing, whatever has become of the objects. Good as above.
+	 */
+	const std::vector<FCategory>& GetLastCategories() const { return Categories; }
+	/** Another number whenever there are other rows. */
+	uint32 GetVersion() const { return Version; }
+
 	/** Whether the rows have been looked at since the selection changed. */
 	bool IsBuilt() const { return bBuilt; }
 
@@ -60,6 +66,7 @@ private:
 	std::map<std::string, int32> Ids;
 	std::set<std::string> PlacesRead;
 	int32 NextId = 1;
+	uint32 Version = 0;
 	/** How many groups of the category that is being read have been seen. */
 	int32 NumGroups = 0;
 	FDelegateHandle SelectionHandle;

@@ -36,9 +36,13 @@ struct FDetailsRow
 	/** Empty without property. */
 	FString Path;
 	EKind Kind = EKind::Struct;
+	/** The row that it stands below, a structure's or an array's; 0 for none. */
+	int32 ParentId = 0;
 	/** The header that it stands under, and the how-manieth one of its category that is; -1 for none. */
 	FText Group;
 	int32 GroupIndex = INDEX_NONE;
+	/** Whether a panel shows that header closed at first. */
+	bool bGroupCollapsed = false;
 	bool bAdvanced = false;
 
 	explicit FDetailsRow(const TSharedRef<IDetailTreeNode>& InNode);

@@ -4,6 +4,7 @@
 #include "Driver/DriverFront.h"
 #include "Driver/DriverWorker.h"
 #include "StandardOutput.h"
+#include "WindowCommand.h"
 
 #include <csignal>
 
@@ -21,6 +22,10 @@ int main(int ArgumentCount, char** Arguments)
 	{
 		return CommandLine.Drive->bWorker ? FDriverWorker::Run(*CommandLine.Drive)
 										  : FDriverFront(*CommandLine.Drive).Run();
+	}
+	if (CommandLine.Window)
+	{
+		return static_cast<int>(FWindowCommand::Run(*CommandLine.Window));
 	}
 	if (!CommandLine.ErrorLine.empty())
 	{

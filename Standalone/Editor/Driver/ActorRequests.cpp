@@ -7,6 +7,7 @@
 
 #include <algorithm>
 
+#include "ActorEdits.h"
 #include "Driver/DriverSession.h"
 #include "Driver/OutsideRecorder.h"
 #include "Editor.h"
@@ -98,18 +99,7 @@ namespace
 		return {{"assets", std::move(Assets)}};
 	}
 
-	/** Tells of the change once. */
-	void SelectOnly(const std::vector<AActor*>& Actors)
-	{
-		GEditor->SelectNone(Actors.empty(), true, false);
-		for (AActor* Actor : Actors)
-		{
-			const bool bLast = Actor == Actors.back();
-			GEditor->SelectActor(Actor, true, bLast, true);
-		}
-	}
-
-	FAnswer Place(FDriverSession& Session, const FRequest& Request)
+	FAnswer Place(FDriverSession&, const FRequest& Request)
 	{
 		UClass* Class = FLevelProperties::FindActorClass(Request.GetText("class"));
 		if (!Class)
@@ -118,16 +108,12 @@ namespace
 		}
 		const FVector Location = Request.GetVector("location");
 		const FRotator Rotation = Request.GetRotator("rotation");
-		const bool bHasRoot = Class->GetDefaultObject<AActor>()->GetRootComponent() != nullptr;
-		if (!bHasRoot && !(Location == FVector() && Rotation == FRotator()))
+		if (!FActorEdits::HasPlace(Class) && !(Location == FVector() && Rotation == FRotator()))
 		{
 			throw FRequestError("actors of this class have no place in the world");
 		}
-		GEditor->BeginTransaction(NSLOCTEXT("UnrealEd", "CreateActors", "Create Actors"));
-		AActor* Actor = Session.GetEditor().GetWorld(0)->SpawnActor(Class, &Location, &Rotation);
+		const AActor* Actor = FActorEdits::Place(Class, Location, Rotation);
 		check(Actor != nullptr);
-		GEditor->EndTransaction();
-		SelectOnly({Actor});
 		return {{"name", FEngineText::ForDisplay(Actor->GetFName())}};
 	}
 
@@ -158,7 +144,7 @@ namespace
 				Actors.push_back(Actor);
 			}
 		}
-		SelectOnly(Actors);
+		FActorEdits::SelectOnly(Actors);
 		return FAnswer();
 	}
 }

@@ -2,6 +2,7 @@
 #include "Driver/DriverSession.h"
 
 #include "Driver/OutsideRecorder.h"
+#include "EditorView.h"
 #include "Framework/Application/SlateApplication.h"
 
 namespace
@@ -11,15 +12,27 @@ namespace
 
 FDriverSession::FDriverSession() : Outside(std::make_unique<FOutsideRecorder>()) {}
 
-FDriverSession::~FDriverSession() = default;
+FDriverSession::~FDriverSession()
+{
+	if (View)
+	{
+		View->Detach();
+	}
+}
 
-bool FDriverSession::Start(const FStandaloneEditorOptions& Options, std::string& OutError)
+bool FDriverSession::Start(
+	const FStandaloneEditorOptions& Options, std::string& OutError, std::unique_ptr<IEditorView> InView)
 {
 	if (!Editor.Start(Options, OutError))
 	{
 		return false;
 	}
 	FSlateApplication::Get().SetCurrentTime(Time);
+	View = std::move(InView);
+	if (View)
+	{
+		View->Attach(Editor);
+	}
 	return true;
 }
 
@@ -27,6 +40,10 @@ void FDriverSession::Tick()
 {
 	FSlateApplication::Get().SetCurrentTime(Time);
 	Editor.Tick();
+	if (View)
+	{
+		View->Update();
+	}
 	Time += SecondsPerFrame;
 }
 

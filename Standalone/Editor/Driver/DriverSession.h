@@ -1,6 +1,7 @@
 // Copyright Corvane. MIT License.
 #pragma once
 
+#include "EditorView.h"
 #include "StandaloneEditor.h"
 
 #include <memory>
@@ -23,8 +24,15 @@ public:
 	FDriverSession& operator=(const FDriverSession&) = delete;
 	~FDriverSession();
 
-	/** @return false with one line if editor or plugin can't be started. */
-	bool Start(const FStandaloneEditorOptions& Options, std::string& OutError);
+	/**
+	 * @param InView shows the editor and follows each request; null for none.
+	 * @return false with one line if editor or plugin can't be started.
+	 */
+	bool Start(
+		const FStandaloneEditorOptions& Options, std::string& OutError, std::unique_ptr<IEditorView> InView = nullptr);
+
+	/** Null for none. */
+	IEditorView* GetView() const { return View.get(); }
 
 	FStandaloneEditor& GetEditor() { return Editor; }
 	FOutsideRecorder& GetOutside() { return *Outside; }
@@ -44,6 +52,7 @@ private:
 	// Before the editor: it records until the last module is gone.
 	std::unique_ptr<FOutsideRecorder> Outside;
 	FStandaloneEditor Editor;
+	std::unique_ptr<IEditorView> View;
 	double Time = 0.0;
 	bool bRestart = false;
 };

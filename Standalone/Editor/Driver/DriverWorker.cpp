@@ -13,6 +13,7 @@
 
 #include "Driver/DriverSession.h"
 #include "Driver/RequestTable.h"
+#include "EditorView.h"
 
 int FDriverWorker::Run(const FDriveOptions& Options)
 {
@@ -25,7 +26,12 @@ int FDriverWorker::Run(const FDriveOptions& Options)
 	FStandaloneEditorOptions EditorOptions;
 	EditorOptions.SavedDir = Options.SavedDir.value_or(std::string());
 	std::string Error;
-	if (!Session.Start(EditorOptions, Error))
+	std::unique_ptr<IEditorView> View;
+	if (Options.bWindow)
+	{
+		View = IEditorView::Make(EEditorViewUse::Script, Error);
+	}
+	if ((Options.bWindow && !View) || !Session.Start(EditorOptions, Error, std::move(View)))
 	{
 		FStandardOutput::WriteError(Error);
 		return static_cast<int>(EExitStatus::BadInput);

@@ -5,6 +5,7 @@
 
 #include "Driver/DriverSession.h"
 #include "EditorAssets.h"
+#include "EditorView.h"
 #include "EngineText.h"
 #include "Modules/ModuleManager.h"
 #include "UObject/UObjectGlobals.h"
@@ -97,9 +98,18 @@ namespace
 		return FAnswer();
 	}
 
-	FAnswer TakeScreenshot(FDriverSession&, const FRequest&)
+	FAnswer TakeScreenshot(FDriverSession& Session, const FRequest& Request)
 	{
-		throw FRequestError("the null view has no pictures");
+		if (!Session.GetView())
+		{
+			throw FRequestError("the null view has no pictures");
+		}
+		std::string Error;
+		if (!Session.GetView()->SaveScreenshot(Request.GetUtf8("file"), Request.GetUtf8("tab"), Error))
+		{
+			throw FRequestError(Error);
+		}
+		return FAnswer();
 	}
 }
 

@@ -37,6 +37,10 @@ namespace
 	int Spawn(const FDriveOptions& Options, const FDescriptor& Requests, const FDescriptor& Answers, pid_t& OutProcess)
 	{
 		std::vector<std::string> Arguments = {"quillon-editor", "drive-worker"};
+		if (Options.bWindow)
+		{
+			Arguments.emplace_back("--view=qt");
+		}
 		if (Options.SavedDir)
 		{
 			Arguments.push_back("--saved=" + *Options.SavedDir);

@@ -90,6 +90,11 @@ void SEditableTextBox::SelectAllText()
 	bAllSelected = true;
 }
 
+void SEditableTextBox::EditText(const FString& NewText)
+{
+	ChangeText(WithoutLineBreaks(NewText));
+}
+
 bool SEditableTextBox::SupportsKeyboardFocus() const
 {
 	return true;

@@ -36,6 +36,8 @@ public:
 	/** Forgets what was typed. */
 	void SetText(const TAttribute<FText>& InNewText);
 	void SelectAllText();
+	/** The user has made this of the text, in a box that somebody else shows. The real engine's box has keys only. */
+	void EditText(const FString& NewText);
 	/** The real engine keeps this getter to itself, and the next one. */
 	const FSlateFontInfo& GetFont() const { return Font.Get(); }
 	/** What every edit is told to. */
