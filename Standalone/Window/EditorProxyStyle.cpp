@@ -1,0 +1,140 @@
+// Copyright Corvane. MIT License.
+#include "EditorProxyStyle.h"
+
+#include "DrawnIcons.h"
+#include "WindowStyle.h"
+
+namespace
+{
+	constexpr qreal CornerRadius = 2.0;
+
+	void DrawCheckBox(const QStyleOption& Option, QPainter& Painter)
+	{
+		const FWindowStyle::FColours& Colours = FWindowStyle::GetColours();
+		const bool bEnabled = Option.state & QStyle::State_Enabled;
+		const QRectF Frame = QRectF(Option.rect).adjusted(1.5, 1.5, -1.5, -1.5);
+		const bool bFocused = Option.state & QStyle::State_HasFocus;
+		Painter.setRenderHint(QPainter::Antialiasing);
+		Painter.setPen(QPen(bFocused ? Colours.Accent : bEnabled ? Colours.DimText : QColor(80, 80, 80), 1.0));
+		Painter.setBrush(Colours.Base);
+		Painter.drawRoundedRect(Frame, CornerRadius, CornerRadius);
+		Painter.setPen(QPen(bEnabled ? QColor(225, 225, 225) : QColor(110, 110, 110), 2.0));
+		if (Option.state & QStyle::State_On)
+		{
+			QPainterPath Mark;
+			Mark.moveTo(Frame.left() + Frame.width() * 0.2, Frame.top() + Frame.height() * 0.52);
+			Mark.lineTo(Frame.left() + Frame.width() * 0.42, Frame.top() + Frame.height() * 0.75);
+			Mark.lineTo(Frame.left() + Frame.width() * 0.8, Frame.top() + Frame.height() * 0.25);
+			Painter.setBrush(Qt::NoBrush);
+			Painter.drawPath(Mark);
+		}
+		else if (Option.state & QStyle::State_NoChange)
+		{
+			Painter.drawLine(
+				QPointF(Frame.left() + 3.0, Frame.center().y()), QPointF(Frame.right() - 3.0, Frame.center().y()));
+		}
+	}
+
+	void DrawButton(const QStyleOption& Option, QPainter& Painter)
+	{
+		const FWindowStyle::FColours& Colours = FWindowStyle::GetColours();
+		const bool bEnabled = Option.state & QStyle::State_Enabled;
+		const bool bHovered = bEnabled && (Option.state & QStyle::State_MouseOver);
+		QColor Fill = Option.palette.color(QPalette::Button);
+		if (Option.state & (QStyle::State_Sunken | QStyle::State_On))
+		{
+			Fill = Fill.darker(135);
+		}
+		else if (bHovered)
+		{
+			Fill = Fill.lighter(122);
+		}
+		const bool bFocused = Option.state & QStyle::State_HasFocus;
+		Painter.setRenderHint(QPainter::Antialiasing);
+		Painter.setPen(QPen(bFocused ? Colours.Accent : Colours.Border, 1.0));
+		Painter.setBrush(bEnabled ? Fill : Fill.darker(115));
+		Painter.drawRoundedRect(QRectF(Option.rect).adjusted(0.5, 0.5, -0.5, -0.5), CornerRadius, CornerRadius);
+	}
+
+	void DrawEditFrame(const QStyleOption& Option, QPainter& Painter)
+	{
+		const FWindowStyle::FColours& Colours = FWindowStyle::GetColours();
+		Painter.setRenderHint(QPainter::Antialiasing);
+		Painter.setPen(QPen((Option.state & QStyle::State_HasFocus) ? Colours.Accent : Colours.Border, 1.0));
+		Painter.setBrush(Qt::NoBrush);
+		Painter.drawRoundedRect(QRectF(Option.rect).adjusted(0.5, 0.5, -0.5, -0.5), CornerRadius, CornerRadius);
+	}
+}
+
+FEditorProxyStyle::FEditorProxyStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+int FEditorProxyStyle::styleHint(
+	StyleHint Hint, const QStyleOption* Option, const QWidget* Widget, QStyleHintReturn* Return) const
+{
+	switch (Hint)
+	{
+		// Else the headings of menus show no text.
+		case SH_Menu_SupportsSections:
+			return 1;
+		case SH_Widget_Animation_Duration:
+			return 0;
+		case SH_UnderlineShortcut:
+			return 0;
+		default:
+			return QProxyStyle::styleHint(Hint, Option, Widget, Return);
+	}
+}
+
+QIcon FEditorProxyStyle::standardIcon(StandardPixmap Standard, const QStyleOption* Option, const QWidget* Widget) const
+{
+	switch (Standard)
+	{
+		// Fusion's own are made of pixels.
+		case SP_TitleBarCloseButton:
+		case SP_DockWidgetCloseButton:
+			return FDrawnIcons::Get(QStringLiteral("remove"));
+		case SP_TitleBarNormalButton:
+			return FDrawnIcons::Get(QStringLiteral("float"));
+		default:
+			return QProxyStyle::standardIcon(Standard, Option, Widget);
+	}
+}
+
+int FEditorProxyStyle::pixelMetric(PixelMetric Metric, const QStyleOption* Option, const QWidget* Widget) const
+{
+	switch (Metric)
+	{
+		case PM_IndicatorWidth:
+		case PM_IndicatorHeight:
+			return 16;
+		case PM_DockWidgetSeparatorExtent:
+		case PM_SplitterWidth:
+			return 4;
+		case PM_ScrollBarExtent:
+			return 12;
+		default:
+			return QProxyStyle::pixelMetric(Metric, Option, Widget);
+	}
+}
+
+void FEditorProxyStyle::drawPrimitive(
+	PrimitiveElement Element, const QStyleOption* Option, QPainter* Painter, const QWidget* Widget) const
+{
+	Painter->save();
+	switch (Element)
+	{
+		case PE_IndicatorCheckBox:
+			DrawCheckBox(*Option, *Painter);
+			break;
+		case PE_PanelButtonCommand:
+			DrawButton(*Option, *Painter);
+			break;
+		case PE_FrameLineEdit:
+			DrawEditFrame(*Option, *Painter);
+			break;
+		default:
+			QProxyStyle::drawPrimitive(Element, Option, Painter, Widget);
+			break;
+	}
+	Painter->restore();
+}

@@ -1,0 +1,4 @@
+// Copyright Corvane. MIT License.
+#include "FocusSync.h"
+
+int FFocusSync::Depth = 0;
