@@ -15,11 +15,7 @@ namespace
 	TArray<AActor*> GetSelectedActors()
 	{
 		TArray<AActor*> Actors;
-		const USelection* Selection = GEditor->GetSelectedActors();
-		for (int32 Index = 0; Index < Selection->Num(); ++Index)
-		{
-			Actors.Add(static_cast<AActor*>(Selection->GetSelectedObject(Index)));
-		}
+		GEditor->GetSelectedActors()->GetSelectedObjects(Actors);
 		return Actors;
 	}
 

@@ -75,3 +75,34 @@ TEST(USelection, ForgetsDestroyedObjects)
 	ASSERT_EQ(Selection->Num(), 1);
 	EXPECT_EQ(Selection->GetSelectedObject(0), Kept);
 }
+
+TEST(USelection, ListsTheObjectsOfATypeInTheOrderOfSelection)
+{
+	USelection* Selection = NewObject<USelection>();
+	UTransactor* First = NewObject<UTransactor>();
+	USelection* Other = NewObject<USelection>();
+	UTransactor* Second = NewObject<UTransactor>();
+	for (UObject* Object : {static_cast<UObject*>(First), static_cast<UObject*>(Other), static_cast<UObject*>(Second)})
+	{
+		Selection->Select(Object);
+	}
+	TArray<UTransactor*> Found;
+	Found.Add(nullptr);
+	EXPECT_EQ(Selection->GetSelectedObjects(Found), 2);
+	EXPECT_EQ(Found, (TArray<UTransactor*>{First, Second}));
+	First->MarkPendingKill();
+	EXPECT_EQ(Selection->GetSelectedObjects(Found), 1);
+}
+
+TEST(USelection, SelectsAnObjectAgainThatWasDeselected)
+{
+	USelection* Selection = NewObject<USelection>();
+	UTransactor* Object = NewObject<UTransactor>();
+	for (int Round = 0; Round < 2; ++Round)
+	{
+		Selection->Select(Object);
+		EXPECT_TRUE(Selection->IsSelected(Object));
+		Round == 0 ? Selection->Deselect(Object) : Selection->DeselectAll();
+		EXPECT_FALSE(Selection->IsSelected(Object));
+	}
+}

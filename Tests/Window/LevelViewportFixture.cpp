@@ -95,7 +95,7 @@ namespace
 int FLevelViewportFixture::CountDifferences(const QImage& Left, const QImage& Right, const QRect& Within)
 {
 	// How the painter rounds depends on where a picture lies in memory.
-	constexpr int Rounding = 12;
+	constexpr int Rounding = 24;
 	int Count = 0;
 	for (int Y = Within.top(); Y <= Within.bottom(); ++Y)
 	{

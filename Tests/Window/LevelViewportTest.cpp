@@ -112,6 +112,8 @@ TEST_F(FLevelViewportTest, PaintsOnlyWhenSomethingHasChanged)
 	ExpectOnePainting("moved");
 	Actor.SetActorLocation(FVector(0.0f, 1.25f, 0.0f));
 	ExpectOnePainting("moved a little");
+	Actor.SetActorLocation(FVector(0.25f, 1.25f, 0.0f));
+	ExpectOnePainting("moved a little along X");
 	Actor.SetActorRotation(FRotator(0.0f, 1.0f, 0.0f));
 	ExpectOnePainting("turned");
 	Select({&Actor});
@@ -249,9 +251,10 @@ TEST_F(FLevelViewportTest, HasAGridOnTheGroundThatEndsWithDistance)
 	EXPECT_EQ(CountDifferences(Near, Far, QRect(120, 10, 500, 50)), 0);
 	// The grid lies still while the view moves above it by whole squares.
 	GetClient().SetViewLocation(FVector(10000.0f, 0.0f, 200.0f));
-	EXPECT_LT(CountDifferences(Near, Take(), Viewport.rect()), 200);
+	const QRect BelowHorizon(0, 80, 640, 280);
+	EXPECT_LT(CountDifferences(Near, Take(), BelowHorizon), 50);
 	GetClient().SetViewLocation(FVector(10050.0f, 0.0f, 200.0f));
-	EXPECT_GT(CountDifferences(Near, Take(), Viewport.rect()), 1000);
+	EXPECT_GT(CountDifferences(Near, Take(), BelowHorizon), 1000);
 }
 
 TEST_F(FLevelViewportTest, ShowsTenThousandActors)

@@ -77,10 +77,11 @@ namespace
 			}
 		}
 		FAnswer Selected = FAnswer::array();
-		const USelection* Selection = GEditor->GetSelectedActors();
-		for (int32 Index = 0; Index < Selection->Num(); ++Index)
+		TArray<AActor*> SelectedActors;
+		GEditor->GetSelectedActors()->GetSelectedObjects(SelectedActors);
+		for (const AActor* Actor : SelectedActors)
 		{
-			Selected.push_back(FEngineText::ForDisplay(Selection->GetSelectedObject(Index)->GetFName()));
+			Selected.push_back(FEngineText::ForDisplay(Actor->GetFName()));
 		}
 		return {{"dirty", FEditorViews::GetLevelWorld()->GetOutermost()->IsDirty()},
 			{"dirtied", Session.GetOutside().GetLevelsDirtied()}, {"actors", std::move(Actors)},

@@ -26,9 +26,10 @@ namespace
 	const UClass* FindCommonClass(const USelection& Selection)
 	{
 		const UClass* Class = nullptr;
-		for (int32 Index = 0; Index < Selection.Num(); ++Index)
+		TArray<UObject*> Actors;
+		Selection.GetSelectedObjects(Actors);
+		for (const UObject* Actor : Actors)
 		{
-			const UObject* Actor = Selection.GetSelectedObject(Index);
 			Class = Class ? Class : Actor->GetClass();
 			while (!Actor->IsA(Class))
 			{

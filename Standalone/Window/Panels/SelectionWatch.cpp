@@ -28,9 +28,10 @@ bool FSelectionWatch::Update()
 	bTold = false;
 	Actors.clear();
 	Known.clear();
-	for (int32 Index = 0; Index < NumNow; ++Index)
+	TArray<AActor*> Selected;
+	Selection->GetSelectedObjects(Selected);
+	for (AActor* Actor : Selected)
 	{
-		AActor* Actor = static_cast<AActor*>(Selection->GetSelectedObject(Index));
 		Actors.emplace_back(Actor);
 		Known.insert(Actor);
 	}

@@ -10,6 +10,7 @@ void USelection::Select(UObject* InObject)
 	if (IsValid(InObject) && !IsSelected(InObject))
 	{
 		SelectedObjects.Add(InObject);
+		OnceSelected.Add(InObject);
 	}
 }
 
@@ -22,11 +23,15 @@ void USelection::DeselectAll(UClass* InClass)
 {
 	SelectedObjects.RemoveAll([InClass](const TWeakObjectPtr<UObject>& Object)
 		{ return !InClass || !Object.IsValid() || Object->IsA(InClass); });
+	if (SelectedObjects.Num() == 0)
+	{
+		OnceSelected = TSet<const UObject*>();
+	}
 }
 
 bool USelection::IsSelected(const UObject* InObject) const
 {
-	return InObject &&
+	return InObject && OnceSelected.Contains(InObject) &&
 		SelectedObjects.ContainsByPredicate(
 			[InObject](const TWeakObjectPtr<UObject>& Object) { return Object == InObject; });
 }

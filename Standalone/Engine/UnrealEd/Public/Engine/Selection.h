@@ -1,7 +1,9 @@
 // Copyright Corvane. MIT License.
 #pragma once
 
+#include "Containers/Set.h"
 #include "CoreMinimal.h"
+#include "Templates/Casts.h"
 #include "UObject/Object.h"
 #include "UObject/WeakObjectPtrTemplates.h"
 
@@ -30,11 +32,27 @@ public:
 
 	bool IsSelected(const UObject* InObject) const;
 	int32 Num() const;
-	/** Null if there are not so many. */
+	/** Null if there are not so many. Looks at all of them, which GetSelectedObjects does but once. */
 	UObject* GetSelectedObject(int32 InIndex) const;
+	/** Those that are of the type, in the order of selection. @return how many. */
+	template <typename T>
+	int32 GetSelectedObjects(TArray<T*>& OutSelectedObjects) const
+	{
+		OutSelectedObjects.Empty();
+		for (const TWeakObjectPtr<UObject>& Object : SelectedObjects)
+		{
+			if (T* Selected = Cast<T>(Object.Get()))
+			{
+				OutSelectedObjects.Add(Selected);
+			}
+		}
+		return OutSelectedObjects.Num();
+	}
 
 private:
 	void ForgetDestroyed() const;
 
 	mutable TArray<TWeakObjectPtr<UObject>> SelectedObjects;
+	/** The addresses of all that have been selected since none was: what is not among them is not selected. */
+	TSet<const UObject*> OnceSelected;
 };
