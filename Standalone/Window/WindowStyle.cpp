@@ -14,19 +14,17 @@ namespace
 	/** Debian's fonts-roboto-unhinted; without it the system's sans serif font stands in. */
 	const char* const FontFolder = "/usr/share/fonts/truetype/roboto/unhinted/RobotoTTF/";
 
-	QString FindFamily()
+	void LoadFonts()
 	{
 		for (const char* File : {"Roboto-Regular.ttf", "Roboto-Italic.ttf", "Roboto-Bold.ttf"})
 		{
 			QFontDatabase::addApplicationFont(QString::fromLatin1(FontFolder) + QLatin1String(File));
 		}
-		return QStringLiteral("Roboto");
 	}
 
 	QFont MakeFont(int Points)
 	{
-		static const QString Family = FindFamily();
-		QFont Font(Family);
+		QFont Font(QStringLiteral("Roboto"));
 		// Whole sizes and no kerning, as the engine's layout measures: lines break where it says.
 		Font.setPixelSize(qRound(Points * PixelsPerPoint));
 		Font.setKerning(false);
@@ -74,12 +72,11 @@ namespace
 
 void FWindowStyle::Apply(QApplication& Application)
 {
-	static bool bApplied = false;
-	if (bApplied)
+	if (dynamic_cast<FEditorProxyStyle*>(QApplication::style()))
 	{
 		return;
 	}
-	bApplied = true;
+	LoadFonts();
 	Application.setStyle(new FEditorProxyStyle);
 	Application.setPalette(MakePalette(GetColours()));
 	Application.setFont(GetFont(DefaultPoints));

@@ -42,22 +42,21 @@ namespace
 		}
 	}
 
-	/** Whoever else has made one, as a test program has, keeps it. */
-	void NeedApplication()
+	/** @return null where somebody else has made one, as a test program has. */
+	std::unique_ptr<QApplication> MakeApplication()
 	{
+		if (QCoreApplication::instance())
+		{
+			return nullptr;
+		}
 		static int ArgumentCount = 1;
 		static char Name[] = "quillon-editor";
 		static char* Arguments[] = {Name, nullptr};
-		if (!QCoreApplication::instance())
-		{
-			qInstallMessageHandler(&PrintMessage);
-			// Never deleted: its end would need what other libraries have cleaned up by then.
-			static const QApplication* const Application = new QApplication(ArgumentCount, Arguments);
-			Q_UNUSED(Application)
-			QApplication::setApplicationName(QStringLiteral("QuillonEditor"));
-			QApplication::setOrganizationName(QStringLiteral("Corvane"));
-		}
-		FWindowStyle::Apply(*static_cast<QApplication*>(QCoreApplication::instance()));
+		qInstallMessageHandler(&PrintMessage);
+		auto Application = std::make_unique<QApplication>(ArgumentCount, Arguments);
+		QApplication::setApplicationName(QStringLiteral("QuillonEditor"));
+		QApplication::setOrganizationName(QStringLiteral("Corvane"));
+		return Application;
 	}
 }
 
@@ -74,12 +73,14 @@ std::unique_ptr<FWindowView> FWindowView::Make(EEditorViewUse Use, std::string& 
 		// A picture must not depend on whose screen it is taken on.
 		qputenv("QT_QPA_PLATFORM", GetOffscreenPlatform());
 	}
-	NeedApplication();
+	std::unique_ptr<FWindowView> View(new FWindowView(Use));
+	View->Application = MakeApplication();
+	FWindowStyle::Apply(*qApp);
 	if (Use == EEditorViewUse::Script)
 	{
 		QApplication::setCursorFlashTime(0);
 	}
-	return std::unique_ptr<FWindowView>(new FWindowView(Use));
+	return View;
 }
 
 FWindowView::~FWindowView()

@@ -10,7 +10,7 @@
 
 class FMainWindow;
 
-/** Shows the editor in a main window. The toolkit's application object is made with the first view and stays. */
+/** Shows the editor in a main window. The toolkit's application object comes and goes with it, unless there is one. */
 class FWindowView final : public IEditorView
 {
 public:
@@ -34,6 +34,7 @@ private:
 	void Step();
 
 	EEditorViewUse Use;
+	std::unique_ptr<QApplication> Application;
 	std::unique_ptr<FWindowContext> Context;
 	std::unique_ptr<FMainWindow> Window;
 };
