@@ -4,6 +4,7 @@
 #include "SlateFixture.h"
 
 #include "Framework/Notifications/NotificationManager.h"
+#include "Widgets/SWindow.h"
 
 /** An application whose clock is turned by hand, and notifications on it. */
 class FNotificationFixture : public FSlateFixture
@@ -44,6 +45,12 @@ protected:
 			Texts.emplace_back(TCHAR_TO_UTF8(*Item->GetInfo().Text.Get().ToString()));
 		}
 		return Texts;
+	}
+	static TArray<TSharedRef<SWindow>> GetWindows()
+	{
+		TArray<TSharedRef<SWindow>> Windows;
+		Manager().GetWindows(Windows);
+		return Windows;
 	}
 	/** All widgets of a type, each before its children. */
 	static TArray<TSharedRef<SWidget>> FindAll(const TSharedRef<SWidget>& Root, const ANSICHAR* Type)

@@ -123,6 +123,84 @@ TEST_F(FNotificationManagerTest, TakesTheFocusFromWhatItTakesAway)
 	EXPECT_EQ(Presses, 0);
 }
 
+TEST_F(FNotificationManagerTest, ShowsEachInAWindowOfItsOwnOldestFirst)
+{
+	EXPECT_EQ(GetWindows().Num(), 0);
+	const TSharedRef<SNotificationItem> One = Show(Lasting(TEXT("one")));
+	const TSharedRef<SNotificationItem> Two = Show(Lasting(TEXT("two")));
+	const TArray<TSharedRef<SWindow>> Windows = GetWindows();
+	ASSERT_EQ(Windows.Num(), 2);
+	EXPECT_EQ(Windows[0]->GetTypeAsString(), FString(TEXT("SWindow")));
+	ASSERT_EQ(Windows[0]->GetChildren()->Num(), 1);
+	EXPECT_EQ(Windows[0]->GetChildren()->GetChildAt(0), One);
+	EXPECT_EQ(Windows[1]->GetChildren()->GetChildAt(0), Two);
+	EXPECT_EQ(One->GetParentWidget(), Windows[0]);
+	EXPECT_FALSE(Windows[0]->GetParentWidget().IsValid()) << "a root";
+	EXPECT_TRUE(GetWindows() == Windows) << "the same again";
+}
+
+TEST_F(FNotificationManagerTest, AddsItsWindowsToWhatIsInTheListAlready)
+{
+	Show(Lasting());
+	TArray<TSharedRef<SWindow>> Windows = {SNew(SWindow)};
+	EXPECT_EQ(Windows[0]->GetChildren()->Num(), 0) << "an empty window";
+	Manager().GetWindows(Windows);
+	ASSERT_EQ(Windows.Num(), 2);
+	EXPECT_EQ(Windows[1], GetWindows()[0]);
+}
+
+TEST_F(FNotificationManagerTest, TakesTheWindowAwayWithItsNotification)
+{
+	Show(Lasting(TEXT("one")));
+	const TWeakPtr<SNotificationItem> Two = Manager().AddNotification(Lasting(TEXT("two")));
+	Show(Lasting(TEXT("three")));
+	TArray<TSharedRef<SWindow>> Windows = GetWindows();
+	const TWeakPtr<SWindow> Gone = Windows[1];
+	Windows.RemoveAt(1);
+	Two.Pin()->ExpireAndFadeout();
+	EXPECT_TRUE(Gone.IsValid());
+	App().Tick();
+	EXPECT_FALSE(Gone.IsValid());
+	EXPECT_FALSE(Two.IsValid());
+	EXPECT_TRUE(GetWindows() == Windows);
+	Manager().CloseAll();
+	EXPECT_EQ(GetWindows().Num(), 0);
+}
+
+TEST_F(FNotificationManagerTest, LeavesNothingToPressInAWindowThatSomebodyHolds)
+{
+	FNotificationInfo Info = Lasting();
+	int32 Presses = 0;
+	Info.ButtonDetails.Add(Button(TEXT("Press"), FSimpleDelegate::CreateLambda([&Presses]() { ++Presses; })));
+	Show(Info);
+	const TSharedRef<SWindow> Window = GetWindows()[0];
+	const TSharedRef<SWidget> Press = FindAll(Window, "SButton")[0];
+	FWidgetPath Path;
+	ASSERT_TRUE(App().GeneratePathToWidgetUnchecked(Press, Path));
+	EXPECT_EQ(Path.Widgets[0].Widget, Window);
+	EXPECT_EQ(Path.Widgets[0].Geometry.GetLocalSize(), Path.Widgets[1].Geometry.GetLocalSize());
+	Click(Press);
+	EXPECT_EQ(Presses, 1);
+	Manager().CloseAll();
+	EXPECT_FALSE(App().GeneratePathToWidgetUnchecked(Press, Path));
+	EXPECT_FALSE(App().SetKeyboardFocus(Press));
+}
+
+TEST_F(FNotificationManagerTest, KeepsTheFocusWithinOneWindow)
+{
+	FNotificationInfo Info = Lasting();
+	Info.ButtonDetails.Add(Button(TEXT("One"), FSimpleDelegate()));
+	Info.ButtonDetails.Add(Button(TEXT("Two"), FSimpleDelegate()));
+	Show(Info);
+	Show(Info);
+	const TArray<TSharedRef<SWidget>> Buttons = FindAll(GetWindows()[0], "SButton");
+	ASSERT_TRUE(App().SetKeyboardFocus(Buttons[0]));
+	KeyDown(EKeys::Tab);
+	EXPECT_TRUE(HasFocus(Buttons[1]));
+	KeyDown(EKeys::Tab);
+	EXPECT_TRUE(HasFocus(Buttons[0]));
+}
+
 TEST_F(FNotificationManagerTest, LetsACallbackThatDiesShowAnotherNotification)
 {
 	// What the callback holds may be the last owner of something that says good-bye.
@@ -261,12 +339,15 @@ protected:
 	void CompareAll() const
 	{
 		int32 Shown = 0;
+		const TArray<TSharedRef<SWindow>> Windows = GetWindows();
+		RC_ASSERT(Windows.Num() == Manager().GetShown().Num());
 		for (const FItemModel& Item : Model.Items)
 		{
 			Compare(Item);
 			if (Item.bShown)
 			{
 				RC_ASSERT(Shown < Manager().GetShown().Num());
+				RC_ASSERT(Item.Item->GetParentWidget() == Windows[Shown]);
 				RC_ASSERT(Manager().GetShown()[Shown++] == Item.Item);
 			}
 		}

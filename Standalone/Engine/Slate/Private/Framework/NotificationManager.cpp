@@ -2,6 +2,7 @@
 #include "Framework/Notifications/NotificationManager.h"
 
 #include "Framework/Application/SlateApplication.h"
+#include "Widgets/SWindow.h"
 
 FSlateNotificationManager& FSlateNotificationManager::Get()
 {
@@ -17,6 +18,7 @@ TSharedPtr<SNotificationItem> FSlateNotificationManager::AddNotification(const F
 	}
 	const TSharedRef<SNotificationItem> Item = SNew(SNotificationItem).Info(&Info);
 	Shown.Add(Item);
+	Windows.Add(SNew(SWindow)[Item]);
 	if (Info.bFireAndForget)
 	{
 		Item->ExpireAndFadeout();
@@ -40,14 +42,13 @@ void FSlateNotificationManager::CloseUnless(const TFunction<bool(const SNotifica
 {
 	// Keeps what goes until the list is whole again: what its callbacks hold dies with it, and may come back here.
 	const TArray<TSharedRef<SNotificationItem>> Before = Shown;
-	Shown.RemoveAll(
-		[&Stays](const TSharedRef<SNotificationItem>& Item)
+	for (int32 Index = Before.Num() - 1; Index >= 0; --Index)
+	{
+		if (!Stays(*Before[Index]))
 		{
-			const bool bGoes = !Stays(*Item);
-			if (bGoes)
-			{
-				Item->SetVisibility(EVisibility::Collapsed);
-			}
-			return bGoes;
-		});
+			Before[Index]->SetVisibility(EVisibility::Collapsed);
+			Shown.RemoveAt(Index);
+			Windows.RemoveAt(Index);
+		}
+	}
 }
