@@ -81,8 +81,27 @@ void FDetailsPanel::Close()
 	bBuilt = false;
 }
 
+bool FDetailsPanel::ShowsSelection() const
+{
+	int32 Index = 0;
+	const TArray<AActor*> Selected = GetSelectedActors();
+	for (const TWeakObjectPtr<AActor>& Actor : BuiltFor)
+	{
+		// One that has gone is selected no more, and its rows show nothing.
+		if (Actor.IsValid() && !(Selected.IsValidIndex(Index) && Selected[Index++] == Actor.Get()))
+		{
+			return false;
+		}
+	}
+	return Index == Selected.Num();
+}
+
 const std::vector<FDetailsPanel::FCategory>& FDetailsPanel::GetCategories()
 {
+	if (bBuilt && !ShowsSelection())
+	{
+		Close();
+	}
 	if (!bBuilt)
 	{
 		Build();
@@ -103,6 +122,11 @@ void FDetailsPanel::Build()
 	bBuilt = true;
 	bRowsOutdated = true;
 	const TArray<AActor*> Actors = GetSelectedActors();
+	BuiltFor.Empty();
+	for (AActor* Actor : Actors)
+	{
+		BuiltFor.Add(Actor);
+	}
 	// Another module may have unloaded it.
 	if (Actors.Num() == 0 || !FModuleManager::Get().IsModuleLoaded("PropertyEditor"))
 	{

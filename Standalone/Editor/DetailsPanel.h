@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "CoreMinimal.h"
+#include "UObject/WeakObjectPtrTemplates.h"
 
 class AActor;
 class IPropertyRowGenerator;
@@ -45,13 +46,15 @@ public:
 	uint32 GetVersion() const { return Version; }
 
 	/** Whether the rows have been looked at since the selection changed. */
-	bool IsBuilt() const { return bBuilt; }
+	bool IsBuilt() const { return bBuilt && ShowsSelection(); }
 
 	/** Forgets all rows and what holds them; they are built anew when next looked at. */
 	void Close();
 
 private:
 	void FollowSelection(UObject* Selection);
+	/** Not everybody who selects tells of it. */
+	bool ShowsSelection() const;
 	void Build();
 	void AddGenerator(const TArray<UObject*>& Objects);
 	void ReadRows();
@@ -70,6 +73,8 @@ private:
 	/** How many groups of the category that is being read have been seen. */
 	int32 NumGroups = 0;
 	FDelegateHandle SelectionHandle;
+	/** Whose rows were built. */
+	TArray<TWeakObjectPtr<AActor>> BuiltFor;
 	bool bBuilt = false;
 	bool bRowsOutdated = false;
 };

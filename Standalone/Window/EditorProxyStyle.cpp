@@ -35,6 +35,21 @@ namespace
 		}
 	}
 
+	/** Not to be mistaken for something to choose. */
+	void DrawMenuHeading(const QStyleOptionMenuItem& Item, QPainter& Painter)
+	{
+		const FWindowStyle::FColours& Colours = FWindowStyle::GetColours();
+		const QRect Rect = Item.rect.adjusted(6, 0, -6, 0);
+		Painter.save();
+		Painter.setFont(FWindowStyle::GetFont(8, true));
+		Painter.setPen(Colours.DimText);
+		Painter.drawText(Rect, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, Item.text);
+		const int End = Rect.left() + QFontMetrics(Painter.font()).horizontalAdvance(Item.text) + 6;
+		Painter.setPen(Colours.Window.lighter(130));
+		Painter.drawLine(End, Rect.center().y(), Rect.right(), Rect.center().y());
+		Painter.restore();
+	}
+
 	void DrawButton(const QStyleOption& Option, QPainter& Painter)
 	{
 		const FWindowStyle::FColours& Colours = FWindowStyle::GetColours();
@@ -54,6 +69,15 @@ namespace
 		Painter.setPen(QPen(bFocused ? Colours.Accent : Colours.Border, 1.0));
 		Painter.setBrush(bEnabled ? Fill : Fill.darker(115));
 		Painter.drawRoundedRect(QRectF(Option.rect).adjusted(0.5, 0.5, -0.5, -0.5), CornerRadius, CornerRadius);
+	}
+
+	/** Where the keyboard focus is can be seen on everything that can have it. */
+	void DrawFocus(const QRect& Rect, QPainter& Painter)
+	{
+		Painter.setRenderHint(QPainter::Antialiasing);
+		Painter.setPen(QPen(FWindowStyle::GetColours().Accent, 1.0));
+		Painter.setBrush(Qt::NoBrush);
+		Painter.drawRoundedRect(QRectF(Rect).adjusted(0.5, 0.5, -0.5, -0.5), CornerRadius, CornerRadius);
 	}
 
 	void DrawEditFrame(const QStyleOption& Option, QPainter& Painter)
@@ -79,6 +103,8 @@ int FEditorProxyStyle::styleHint(
 		case SH_Widget_Animation_Duration:
 			return 0;
 		case SH_UnderlineShortcut:
+		case SH_DialogButtonBox_ButtonsHaveIcons:
+		case SH_EtchDisabledText:
 			return 0;
 		default:
 			return QProxyStyle::styleHint(Hint, Option, Widget, Return);
@@ -117,6 +143,24 @@ int FEditorProxyStyle::pixelMetric(PixelMetric Metric, const QStyleOption* Optio
 	}
 }
 
+void FEditorProxyStyle::drawControl(
+	ControlElement Element, const QStyleOption* Option, QPainter* Painter, const QWidget* Widget) const
+{
+	const auto* Item = Element == CE_MenuItem ? qstyleoption_cast<const QStyleOptionMenuItem*>(Option) : nullptr;
+	if (Item && Item->menuItemType == QStyleOptionMenuItem::Separator && !Item->text.isEmpty())
+	{
+		DrawMenuHeading(*Item, *Painter);
+		return;
+	}
+	QProxyStyle::drawControl(Element, Option, Painter, Widget);
+	if (Element == CE_TabBarTabLabel && (Option->state & State_HasFocus) && (Option->state & State_Selected))
+	{
+		Painter->save();
+		DrawFocus(Option->rect.adjusted(4, 3, -4, -3), *Painter);
+		Painter->restore();
+	}
+}
+
 void FEditorProxyStyle::drawPrimitive(
 	PrimitiveElement Element, const QStyleOption* Option, QPainter* Painter, const QWidget* Widget) const
 {
@@ -131,6 +175,16 @@ void FEditorProxyStyle::drawPrimitive(
 			break;
 		case PE_FrameLineEdit:
 			DrawEditFrame(*Option, *Painter);
+			break;
+		case PE_FrameFocusRect:
+			DrawFocus(Option->rect, *Painter);
+			break;
+		case PE_Frame:
+			QProxyStyle::drawPrimitive(Element, Option, Painter, Widget);
+			if (Option->state & State_HasFocus)
+			{
+				DrawFocus(Option->rect, *Painter);
+			}
 			break;
 		default:
 			QProxyStyle::drawPrimitive(Element, Option, Painter, Widget);

@@ -13,6 +13,8 @@ public:
 		StyleHint Hint, const QStyleOption* Option, const QWidget* Widget, QStyleHintReturn* Return) const override;
 	QIcon standardIcon(StandardPixmap Standard, const QStyleOption* Option, const QWidget* Widget) const override;
 	int pixelMetric(PixelMetric Metric, const QStyleOption* Option, const QWidget* Widget) const override;
+	void drawControl(
+		ControlElement Element, const QStyleOption* Option, QPainter* Painter, const QWidget* Widget) const override;
 	void drawPrimitive(
 		PrimitiveElement Element, const QStyleOption* Option, QPainter* Painter, const QWidget* Widget) const override;
 };

@@ -37,6 +37,8 @@ public:
 
 	/** Once a frame: the title, and what can be undone and redone. */
 	void Poll();
+	/** What it looks at only now and then is due with the next Poll. */
+	void Invalidate() { LastLook = -1.0; }
 
 	/** @return whether the user did not cancel; what is not saved has been saved then, or may go. */
 	bool MayLoseChanges();

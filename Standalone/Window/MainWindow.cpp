@@ -1,6 +1,8 @@
 // Copyright Corvane. MIT License.
 #include "MainWindow.h"
 
+#include <utility>
+
 #include "DeveloperMenu.h"
 #include "FileActions.h"
 #include "FocusSync.h"
@@ -13,15 +15,27 @@
 #include "Panels/PlaceActors.h"
 #include "Panels/SendersPanel.h"
 #include "WindowImages.h"
+#include "WindowText.h"
+
+#include "Editor.h"
+#include "EditorViews.h"
+#include "Engine/Level.h"
+#include "Engine/World.h"
+#include "GameFramework/Actor.h"
 
 namespace
 {
 	constexpr int DefaultWidth = 1600;
 	constexpr int DefaultHeight = 900;
-	/** The wizard's column is 300 units wide, and stands between margins. */
-	constexpr int SideWidth = 380;
-	constexpr int PlaceWidth = 280;
+	constexpr int SideWidth = 400;
+	/** Tabs open there: the wizard's column is 300 units wide, and stands between margins. */
+	constexpr int PlaceWidth = 360;
 	constexpr int BrowserHeight = 230;
+
+	/** A window has a frame, which is known only once it is shown. */
+	const QSize Frame(16, 48);
+
+	constexpr int32 MostActorsNamed = 4;
 
 	const QString PlaceTitle = QStringLiteral("Place Actors");
 	const QString OutlinerTitle = QStringLiteral("World Outliner");
@@ -47,7 +61,11 @@ FMainWindow::FMainWindow(FWindowContext& InContext) : Context(InContext)
 	setDockOptions(QMainWindow::AllowTabbedDocks | QMainWindow::AllowNestedDocks);
 	setTabPosition(Qt::AllDockWidgetAreas, QTabWidget::North);
 	setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
-	Context.Say = [this](const QString& Line) { statusBar()->showMessage(Line); };
+	Context.Say = [this](const QString& Line)
+	{
+		statusBar()->showMessage(Line);
+		bSaid = true;
+	};
 	MakeToolBar();
 	MakePanels();
 	Tabs = std::make_unique<FTabDocks>(Context, [this](QDockWidget* Dock) { AddTab(Dock); });
@@ -59,6 +77,7 @@ FMainWindow::FMainWindow(FWindowContext& InContext) : Context(InContext)
 	{
 		restoreGeometry(Settings->value(GeometryKey).toByteArray());
 		restoreState(Settings->value(StateKey).toByteArray(), LayoutVersion);
+		FitScreen();
 	}
 	statusBar()->showMessage(QStringLiteral("Ready"));
 }
@@ -151,16 +170,38 @@ void FMainWindow::ArrangeDocks()
 	resizeDocks({FindDock(PlaceTitle), FindDock(DetailsTitle)}, {PlaceWidth, SideWidth}, Qt::Horizontal);
 	resizeDocks({FindDock(OutlinerTitle), FindDock(DetailsTitle)}, {1, 2}, Qt::Vertical);
 	resizeDocks({FindDock(BrowserTitle)}, {BrowserHeight}, Qt::Vertical);
+	for (QDockWidget* Dock : Tabs->GetDocks())
+	{
+		PlaceTab(Dock);
+	}
+}
+
+void FMainWindow::FitScreen()
+{
+	const QRect Room = screen()->availableGeometry();
+	resize(size().boundedTo(Room.size() - Frame));
+	const QPoint Furthest = Room.bottomRight() - QPoint(width(), height()) + QPoint(1, 1);
+	move(
+		qBound(Room.left(), x(), Furthest.x() - Frame.width()), qBound(Room.top(), y(), Furthest.y() - Frame.height()));
 }
 
 void FMainWindow::AddTab(QDockWidget* Dock)
 {
-	// Where the user had it, else with the details, where its column has room.
+	// Where the user had it.
 	if (!Settings || !restoreDockWidget(Dock))
 	{
-		addDockWidget(Qt::RightDockWidgetArea, Dock);
-		tabifyDockWidget(FindDock(DetailsTitle), Dock);
+		PlaceTab(Dock);
 	}
+	Dock->raise();
+	Context.Say(QStringLiteral("Opened %1").arg(Dock->windowTitle()));
+}
+
+void FMainWindow::PlaceTab(QDockWidget* Dock)
+{
+	// Not over the details: those of what a tab makes are what one looks for next.
+	Dock->setFloating(false);
+	addDockWidget(Qt::LeftDockWidgetArea, Dock);
+	tabifyDockWidget(FindDock(PlaceTitle), Dock);
 	Dock->raise();
 }
 
@@ -173,6 +214,50 @@ void FMainWindow::Poll()
 		Panel->Poll();
 	}
 	Files->Poll();
+	SayNews();
+}
+
+void FMainWindow::SayNews()
+{
+	const QString Step = FindNewStep();
+	const QString Actors = FindNewActors();
+	const QString& News = Actors.isEmpty() ? Step : Actors;
+	if (!bSaid && !News.isEmpty())
+	{
+		Context.Say(News);
+	}
+	bSaid = false;
+}
+
+QString FMainWindow::FindNewStep()
+{
+	const QString Step =
+		GEditor->Trans->CanUndo() ? FWindowText::ToQt(GEditor->Trans->GetUndoContext().Title) : QString();
+	return std::exchange(LastStep, Step) == Step ? QString() : Step;
+}
+
+QString FMainWindow::FindNewActors()
+{
+	ULevel* Level = FEditorViews::GetLevelWorld()->PersistentLevel;
+	const int32 NumBefore = std::exchange(LastNumActors, Level->Actors.Num());
+	if (std::exchange(LastLevel, Level) != Level || LastNumActors <= NumBefore ||
+		LastNumActors > NumBefore + MostActorsNamed)
+	{
+		return QString();
+	}
+	QStringList Names;
+	for (int32 Index = NumBefore; Index < LastNumActors; ++Index)
+	{
+		const AActor* Actor = Level->Actors[Index];
+		Names.push_back(Actor ? FWindowText::ToQt(Actor->GetName()) : QString());
+	}
+	return QStringLiteral("Created ") + Names.join(QStringLiteral(", "));
+}
+
+bool FMainWindow::event(QEvent* Event)
+{
+	// Menus would clear the line, as their entries have nothing to say.
+	return Event->type() == QEvent::StatusTip || QMainWindow::event(Event);
 }
 
 void FMainWindow::SetLevelFile(const QString& File)
@@ -205,6 +290,11 @@ QWidget* FMainWindow::PrepareScreenshot(const QString& Name)
 		return nullptr;
 	}
 	QCoreApplication::processEvents();
+	for (FPanel* Panel : Panels)
+	{
+		Panel->Invalidate();
+	}
+	Files->Invalidate();
 	Details->ShowNow();
 	return Dock ? static_cast<QWidget*>(Dock) : this;
 }

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "TabDocks.h"
+#include "UObject/WeakObjectPtrTemplates.h"
 #include "WindowContext.h"
 
 class FContentBrowser;
@@ -16,6 +17,7 @@ class FLevelToolBarView;
 class FLevelViewport;
 class FNotificationStack;
 class FPanel;
+class ULevel;
 
 /**
  * The editor's window: menus and toolbar, the level in the middle, panels and the modules' tabs around it. For a person
@@ -50,6 +52,7 @@ public:
 	FFileActions& GetFiles() const { return *Files; }
 
 protected:
+	bool event(QEvent* Event) override;
 	void closeEvent(QCloseEvent* Event) override;
 
 private:
@@ -60,6 +63,13 @@ private:
 	/** Where everything stands until somebody moves it. */
 	void ArrangeDocks();
 	void AddTab(QDockWidget* Dock);
+	void PlaceTab(QDockWidget* Dock);
+	/** The whole of it is on the screen, however small that is. */
+	void FitScreen();
+	/** Says what has been made or changed since the last poll, unless somebody else has said something. */
+	void SayNews();
+	QString FindNewActors();
+	QString FindNewStep();
 
 	FWindowContext& Context;
 	std::unique_ptr<QSettings> Settings;
@@ -72,4 +82,8 @@ private:
 	FDetailsView* Details = nullptr;
 	FLevelToolBarView* ToolBar = nullptr;
 	FNotificationStack* Notifications = nullptr;
+	bool bSaid = false;
+	QString LastStep;
+	TWeakObjectPtr<ULevel> LastLevel;
+	int32 LastNumActors = 0;
 };

@@ -2,11 +2,15 @@
 #include "TabDocks.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "FocusSync.h"
+#include "Framework/Application/SlateApplication.h"
 #include "Framework/Docking/TabManager.h"
 #include "SlateHost.h"
+#include "WidgetFinder.h"
 #include "Widgets/Docking/SDockTab.h"
+#include "Widgets/Input/SEditableTextBox.h"
 #include "WindowImages.h"
 #include "WindowText.h"
 
@@ -35,6 +39,8 @@ struct FTabDocks::FEntry
 {
 	TWeakPtr<SDockTab> Tab;
 	QPointer<FTabDock> Dock;
+	/** It has been opened by somebody who sees it, and nothing in it has had the focus yet. */
+	bool bWantsFocus = false;
 	/** Children of the dock. */
 	QScrollArea* Area = nullptr;
 	FSlateHost* Host = nullptr;
@@ -71,7 +77,33 @@ void FTabDocks::Poll()
 		Entry->Host->Poll();
 		// What is higher than the dock is scrolled to; what is wider is cut off, as the engine does.
 		Entry->Host->setMinimumHeight(Entry->Host->sizeHint().height());
+		if (std::exchange(Entry->bWantsFocus, false))
+		{
+			FocusFirstBox(*Entry);
+		}
 	}
+}
+
+void FTabDocks::FocusFirstBox(FEntry& Entry)
+{
+	const TSharedPtr<SWidget> Content = Entry.Host->GetRoot();
+	const TArray<TSharedRef<SEditableTextBox>> Boxes = Content.IsValid()
+		? FWidgetFinder(Content.ToSharedRef()).GetEditBoxes()
+		: TArray<TSharedRef<SEditableTextBox>>();
+	if (Boxes.Num() > 0)
+	{
+		FSlateApplication::Get().SetKeyboardFocus(Boxes[0], EFocusCause::SetDirectly);
+	}
+}
+
+std::vector<QDockWidget*> FTabDocks::GetDocks() const
+{
+	std::vector<QDockWidget*> Docks;
+	for (const std::unique_ptr<FEntry>& Entry : Entries)
+	{
+		Docks.push_back(Entry->Dock);
+	}
+	return Docks;
 }
 
 void FTabDocks::RemoveClosed()
@@ -114,6 +146,8 @@ void FTabDocks::AddNew()
 		Entry->Dock->setWidget(Entry->Area);
 		AddDock(Entry->Dock);
 		Entry->Dock->show();
+		// A script has not clicked anywhere, and asks which widget has the focus.
+		Entry->bWantsFocus = !Context.IsScript();
 		Entries.push_back(std::move(Entry));
 	}
 }

@@ -29,6 +29,8 @@ public:
 	/** Opens, closes and raises docks as the tabs have been, and brings up to date what is seen of them. */
 	void Poll();
 
+	/** Of the open tabs, in opening order. */
+	std::vector<QDockWidget*> GetDocks() const;
 	/** The dock of the tab of that id, as spelled by its spawner; null if it is not open. */
 	QDockWidget* Find(const QString& TabId) const;
 
@@ -39,6 +41,8 @@ private:
 	void AddNew();
 	void RemoveClosed();
 	void FollowForeground();
+	/** Who has opened a tab to type into it can do so at once. */
+	static void FocusFirstBox(FEntry& Entry);
 
 	FWindowContext& Context;
 	FAddDock AddDock;

@@ -32,11 +32,13 @@ namespace
 			!qgetenv("WAYLAND_DISPLAY").isEmpty();
 	}
 
-	/** What the toolkit has to say, but for what it can't do without a display and nobody asked for. */
+	/** What the toolkit has to say, but for what it lacks of display and fonts, which nobody asked about. */
 	void PrintMessage(QtMsgType, const QMessageLogContext&, const QString& Message)
 	{
-		if (!Message.startsWith(QStringLiteral("This plugin does not support")) &&
-			!Message.startsWith(QStringLiteral("QStandardPaths: XDG_RUNTIME_DIR")))
+		const bool bNoNews = Message.startsWith(QStringLiteral("This plugin does not support")) ||
+			Message.startsWith(QStringLiteral("QStandardPaths: XDG_RUNTIME_DIR")) ||
+			Message.startsWith(QStringLiteral("OpenType support missing"));
+		if (!bNoNews)
 		{
 			FStandardOutput::WriteError(FErrorText::OneLine(Message.toStdString()));
 		}

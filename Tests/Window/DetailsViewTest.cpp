@@ -3,7 +3,10 @@
 
 #include <QtTest/QTest>
 
+#include "ActorEdits.h"
 #include "Editor.h"
+#include "EditorViews.h"
+#include "LevelProperties.h"
 #include "Modules/ModuleManager.h"
 #include "Panels/DetailsList.h"
 
@@ -278,4 +281,18 @@ TEST_F(FDetailsViewScriptTest, ShowsTheRowsThatTheScriptHasAskedForWhenItIsToldT
 	View.ShowNow();
 	EXPECT_EQ(Editor.GetDetails().GetVersion(), Version);
 	EXPECT_EQ(GetValue<QLineEdit>("Number")->text(), QStringLiteral("4"));
+}
+
+TEST_F(FDetailsViewTest, FollowsASelectionThatNobodyTellsOf)
+{
+	FActorEdits::SelectOnly({});
+	Frame(View);
+	AActor* Actor =
+		FEditorViews::GetLevelWorld()->SpawnActor(FLevelProperties::FindActorClass(TEXT("ZAVCineCamCapture")));
+	GEditor->SelectActor(Actor, true, false);
+	Frame(View);
+	EXPECT_EQ(View.GetMessage(), QString());
+	GEditor->SelectActor(Actor, false, false);
+	Frame(View);
+	EXPECT_NE(View.GetMessage(), QString());
 }

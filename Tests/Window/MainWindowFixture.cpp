@@ -13,6 +13,8 @@
 
 FMainWindowFixture::FMainWindowFixture(EEditorViewUse Use)
 {
+	QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Corvane"), QStringLiteral("QuillonEditor"))
+		.clear();
 	std::string Error;
 	View = FWindowView::Make(Use, Error);
 	if (!View || !Editor.Start(FStandaloneEditorOptions(), Error))

@@ -223,13 +223,13 @@ namespace
 TEST_F(FRememberingWindow, FindsPanelsAndTabsWhereTheyWereLeft)
 {
 	OpenWizard();
-	EXPECT_EQ(GetArea(Wizard), Qt::RightDockWidgetArea);
-	GetWindow().addDockWidget(Qt::LeftDockWidgetArea, GetWindow().FindDock(QString::fromLatin1(Wizard)));
+	EXPECT_EQ(GetArea(Wizard), Qt::LeftDockWidgetArea);
+	GetWindow().addDockWidget(Qt::RightDockWidgetArea, GetWindow().FindDock(QString::fromLatin1(Wizard)));
 	GetWindow().addDockWidget(Qt::LeftDockWidgetArea, GetWindow().FindDock(QStringLiteral("World Outliner")));
 	GetWindow().FindDock(QStringLiteral("Spout senders"))->hide();
 	Reopen();
 	EXPECT_EQ(GetArea("World Outliner"), Qt::LeftDockWidgetArea);
-	EXPECT_EQ(GetArea(Wizard), Qt::LeftDockWidgetArea) << "it was open, and is again";
+	EXPECT_EQ(GetArea(Wizard), Qt::RightDockWidgetArea) << "it was open, and is again";
 	EXPECT_TRUE(GetWindow().FindDock(QStringLiteral("Spout senders"))->isHidden());
 }
 
@@ -283,5 +283,79 @@ TEST(FScaledWindow, IsSharpAtEachScale)
 		EXPECT_GT(CountSharpEdges(Scaled), Edges * Scale * 0.9) << Scale;
 		const QImage Enlarged = Plain.scaled(Scaled.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 		EXPECT_LT(CountSharpEdges(Enlarged), CountSharpEdges(Scaled) / 2) << "what blur would look like";
+	}
+}
+
+TEST_F(FRememberingWindow, PutsAllInItsFirstPlaceAgain)
+{
+	OpenWizard();
+	GetWindow().addDockWidget(Qt::LeftDockWidgetArea, GetWindow().FindDock(QStringLiteral("World Outliner")));
+	GetWindow().FindDock(QString::fromLatin1(Wizard))->setFloating(true);
+	for (QAction* Action : GetWindow().menuBar()->findChildren<QAction*>())
+	{
+		if (Action->text() == QStringLiteral("&Reset Layout"))
+		{
+			Action->trigger();
+		}
+	}
+	Frame();
+	EXPECT_EQ(GetArea("World Outliner"), Qt::RightDockWidgetArea);
+	EXPECT_FALSE(GetWindow().FindDock(QString::fromLatin1(Wizard))->isFloating());
+}
+
+TEST_F(FRememberingWindow, LetsOneTypeIntoATabThatWasJustOpened)
+{
+	OpenWizard();
+	Type(QStringLiteral("Main"));
+	EXPECT_EQ(static_cast<QLineEdit&>(FindInTab(Wizard, TEXT("SEditableTextBox"))).text(), QStringLiteral("Main"));
+}
+
+TEST_F(FRememberingWindow, SaysWhatHasBeenDone)
+{
+	const auto Said = [this]() { return GetWindow().statusBar()->currentMessage(); };
+	OpenWizard();
+	EXPECT_EQ(Said(), QStringLiteral("Opened Cine Stream Wizard"));
+	Type(QStringLiteral("Main"));
+	Click(FindInTab(Wizard, TEXT("SButton")));
+	EXPECT_EQ(Said(), QStringLiteral("Created ZAVCineCamCapture_0, ZAVSpoutSenderManager_0"));
+	Place(TEXT("ZAVSpoutSenderManager"));
+	EXPECT_EQ(Said(), QStringLiteral("Created ZAVSpoutSenderManager_1"));
+	QStatusTipEvent FromAMenu{QString()};
+	QApplication::sendEvent(&GetWindow(), &FromAMenu);
+	EXPECT_EQ(Said(), QStringLiteral("Created ZAVSpoutSenderManager_1")) << "a menu that opens has nothing to say";
+}
+
+TEST_F(FRememberingWindow, FitsOnItsScreen)
+{
+	GetWindow().resize(5000, 4000);
+	GetWindow().move(-300, 2000);
+	Reopen();
+	const QRect Geometry = GetWindow().geometry();
+	EXPECT_TRUE(GetWindow().screen()->availableGeometry().contains(GetWindow().frameGeometry()))
+		<< Geometry.x() << ' ' << Geometry.y() << ' ' << Geometry.width() << ' ' << Geometry.height();
+}
+
+TEST_F(FRememberingWindow, ShowsWhichControlHasTheFocus)
+{
+	OpenWizard();
+	Place(TEXT("ZAVSpoutReceiverManager"));
+	GetWindow().FindDock(QStringLiteral("Place Actors"))->raise();
+	Advance(1.0);
+	for (QWidget* Widget : GetWindow().findChildren<QWidget*>())
+	{
+		const bool bStop = Widget->isVisible() && Widget->isEnabled() && (Widget->focusPolicy() & Qt::TabFocus) != 0 &&
+			!Widget->focusProxy() && !Widget->visibleRegion().isEmpty();
+		if (!bStop)
+		{
+			continue;
+		}
+		GetWindow().setFocus();
+		Widget->clearFocus();
+		QCoreApplication::processEvents();
+		const QImage Without = GetWindow().grab().toImage();
+		Widget->setFocus(Qt::TabFocusReason);
+		QCoreApplication::processEvents();
+		EXPECT_NE(GetWindow().grab().toImage(), Without)
+			<< Widget->metaObject()->className() << " " << Widget->accessibleName().toStdString();
 	}
 }

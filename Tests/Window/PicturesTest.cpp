@@ -67,6 +67,7 @@ namespace
 	class FPictures : public FMainWindowFixture
 	{
 	protected:
+		FPictures() : FMainWindowFixture(EEditorViewUse::Person) {}
 		~FPictures() override { ZAVSpoutNames::SetActiveSenderNames({}); }
 
 		static void Check(const QPixmap& Picture, const char* Name)

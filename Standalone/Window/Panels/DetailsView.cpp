@@ -80,6 +80,8 @@ void FDetailsView::MakeHeader(QBoxLayout& Box)
 	Title->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
 	Line->addWidget(Icon);
 	Line->addWidget(Title, 1);
+	Icon->hide();
+	Title->hide();
 	Box.addLayout(Line);
 	Search = new QLineEdit(this);
 	Search->setPlaceholderText(QStringLiteral("Search Details"));
@@ -200,6 +202,8 @@ void FDetailsView::ShowTitle()
 		Title->setAccessibleName(Text);
 		const QIcon ClassIcon = First ? FWindowImages::GetClassIcon(FindCommonClass(Selection)) : QIcon();
 		Icon->setPixmap(ClassIcon.pixmap(QSize(16, 16), devicePixelRatioF()));
+		Icon->setVisible(!Text.isEmpty());
+		Title->setVisible(!Text.isEmpty());
 		resizeEvent(nullptr);
 	}
 }

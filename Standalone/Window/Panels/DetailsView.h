@@ -22,7 +22,7 @@ public:
 	void Poll() override;
 
 	/** Everything is brought up to date with the next Poll. */
-	void Invalidate() { bDue = true; }
+	void Invalidate() override { bDue = true; }
 
 	/** Brings everything that can be seen up to date at once. A script's rows are those that it has last asked for. */
 	void ShowNow();

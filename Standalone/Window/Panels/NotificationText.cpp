@@ -8,7 +8,8 @@ namespace
 
 	QString Shorten(const FString& Full)
 	{
-		const int32 Length = qMin(Full.Len(), MaxLength);
+		const bool bInPair = Full.Len() > MaxLength && QChar(Full[MaxLength]).isLowSurrogate();
+		const int32 Length = qMin(Full.Len(), bInPair ? MaxLength - 1 : MaxLength);
 		QString Result(reinterpret_cast<const QChar*>(*Full), Length);
 		Result.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
 		// The only break that a layout of Qt's knows.

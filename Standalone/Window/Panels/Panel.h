@@ -15,4 +15,7 @@ public:
 	 * weak references only, or ask anew.
 	 */
 	virtual void Poll() = 0;
+
+	/** What it looks at only now and then by the application's clock is due with the next Poll. */
+	virtual void Invalidate() {}
 };

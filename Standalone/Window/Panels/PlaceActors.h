@@ -21,6 +21,7 @@ public:
 	explicit FPlaceActors(FWindowContext& InContext, QWidget* Parent = nullptr);
 
 	void Poll() override;
+	void Invalidate() override { ReadTime = -1.0; }
 
 	/** Where something new stands: on the ground in front of the view if that is near, else a little way ahead. */
 	static FVector FindPlace(const FVector& ViewLocation, const FRotator& ViewRotation);

@@ -81,6 +81,10 @@ FSendersPanel::FSendersPanel(FWindowContext& InContext, QWidget* Parent)
 	Over->addWidget(EmptyLabel);
 	MakeButtons(*Box);
 	EnableButtons();
+	// As they are seen, from the top down.
+	setTabOrder(AddButton, List);
+	setTabOrder(List, RemoveButton);
+	setTabOrder(RemoveButton, RemoveAllButton);
 }
 
 void FSendersPanel::MakeNameLine(QBoxLayout& Box)

@@ -17,6 +17,7 @@ public:
 	explicit FSendersPanel(FWindowContext& InContext, QWidget* Parent = nullptr);
 
 	void Poll() override;
+	void Invalidate() override { bDue = true; }
 
 	QListWidget& GetList() const { return *List; }
 	QLineEdit& GetNameBox() const { return *NameBox; }
