@@ -101,7 +101,6 @@ int FEditorProxyStyle::styleHint(
 		case SH_Menu_SupportsSections:
 			return 1;
 		case SH_Widget_Animation_Duration:
-			return 0;
 		case SH_UnderlineShortcut:
 		case SH_DialogButtonBox_ButtonsHaveIcons:
 		case SH_EtchDisabledText:

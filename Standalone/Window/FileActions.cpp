@@ -350,7 +350,7 @@ void FFileActions::FillRecentMenu()
 	RecentMenu->clear();
 	for (const QString& File : GetRecentFiles())
 	{
-		const int Number = RecentMenu->actions().size() + 1;
+		const auto Number = RecentMenu->actions().size() + 1;
 		const QString Name = QFileInfo(File).fileName().replace(u'&', QStringLiteral("&&"));
 		QAction* Action = RecentMenu->addAction(QStringLiteral("%1 %2").arg(Number).arg(Name));
 		Action->setToolTip(QStringLiteral("<qt>%1</qt>").arg(File.toHtmlEscaped()));

@@ -161,7 +161,7 @@ QIcon FWindowImages::GetClassIcon(const UClass* Class)
 		const FName Key(*(FString(TEXT("ClassIcon.")) + Current->GetName()));
 		for (const FName& StyleSet : StyleSets)
 		{
-			const QIcon Icon =
+			QIcon Icon =
 				GetIcon(FSlateStyleRegistry::FindSlateStyle(StyleSet)->GetOptionalBrush(Key, nullptr, nullptr));
 			if (!Icon.isNull())
 			{

@@ -15,6 +15,7 @@
 #include "Modules/ModuleManager.h"
 #include "TemporaryFolder.h"
 #include "Widgets/Docking/SDockTab.h"
+#include "ZAVSpoutNames.h"
 
 namespace
 {
@@ -358,4 +359,32 @@ TEST_F(FRememberingWindow, ShowsWhichControlHasTheFocus)
 		EXPECT_NE(GetWindow().grab().toImage(), Without)
 			<< Widget->metaObject()->className() << " " << Widget->accessibleName().toStdString();
 	}
+}
+
+TEST_F(FMainWindowView, ShowsInAPictureWhatHasJustChanged)
+{
+	const FTemporaryFolder Folder;
+	std::string Error;
+	QDockWidget& Senders = *GetWindow().FindDock(QStringLiteral("Spout senders"));
+	ASSERT_TRUE(View->SaveScreenshot(Folder.File("a.png"), "Spout senders", Error)) << Error;
+	ZAVSpoutNames::SetActiveSenderNames({TEXT("A"), TEXT("B")});
+	Place(TEXT("ZAVSpoutSenderManager"));
+	ASSERT_TRUE(View->SaveScreenshot(Folder.File("a.png"), "Spout senders", Error)) << Error;
+	ZAVSpoutNames::SetActiveSenderNames({});
+	EXPECT_EQ(Senders.findChild<QListWidget*>()->count(), 2);
+	EXPECT_TRUE(GetWindow().windowTitle().contains(u'*')) << GetWindow().windowTitle().toStdString();
+}
+
+TEST_F(FMainWindowView, LeavesWhatAPanelHasSaid)
+{
+	QListWidget* Classes = nullptr;
+	for (QListWidget* List : GetWindow().FindDock(QStringLiteral("Place Actors"))->findChildren<QListWidget*>())
+	{
+		Classes = List->accessibleName() == QStringLiteral("Classes") ? List : Classes;
+	}
+	ASSERT_NE(Classes, nullptr);
+	Classes->setFocus();
+	Classes->setCurrentRow(0);
+	Press(Qt::Key_Return);
+	EXPECT_EQ(GetWindow().statusBar()->currentMessage(), QStringLiteral("Placed Actor_0"));
 }

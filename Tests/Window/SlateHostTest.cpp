@@ -14,6 +14,7 @@
 #include "Widgets/Input/SComboBox.h"
 #include "Widgets/Input/SEditableTextBox.h"
 #include "Widgets/SBoxPanel.h"
+#include "Widgets/SOverlay.h"
 #include "Widgets/Text/STextBlock.h"
 
 namespace
@@ -52,7 +53,7 @@ namespace
 						.OnCheckStateChanged_Lambda([this](ECheckBoxState NewState)
 						{
 							Told.push_back("ticked");
-							State = NewState;
+							State = bRefuses ? State : NewState;
 						})
 				]
 				+ SVerticalBox::Slot().AutoHeight()
@@ -94,6 +95,7 @@ namespace
 		std::vector<std::string> TakeTold() { return std::exchange(Told, {}); }
 
 		std::vector<std::string> Told;
+		bool bRefuses = false;
 		ECheckBoxState State = ECheckBoxState::Unchecked;
 		TArray<TSharedPtr<FString>> Options;
 		TSharedPtr<SVerticalBox> Root;
@@ -170,6 +172,51 @@ TEST_F(FSlateHostPage, VisitsTheWidgetsWithTheTabKeyInTheOrderOfTheTree)
 	EXPECT_EQ(Visited, (std::vector<const SWidget*>{Button.Get(), Check.Get(), Combo.Get()}));
 }
 
+TEST_F(FSlateHostPage, VisitsAWidgetThatIsShownLaterInItsPlace)
+{
+	FSlateHost Later;
+	Check->SetVisibility(EVisibility::Collapsed);
+	Later.SetRoot(Root);
+	ShowPanel(Later, 300, 300);
+	Frame(Later);
+	Check->SetVisibility(EVisibility::Visible);
+	Frame(Later);
+	Later.FindLeaf(*Button)->setFocus(Qt::TabFocusReason);
+	QTest::keyClick(Later.FindLeaf(*Button), Qt::Key_Tab);
+	EXPECT_EQ(FSlateApplication::Get().GetKeyboardFocusedWidget().Get(), Check.Get());
+}
+
+TEST_F(FSlateHostPage, StacksAnOverlaysWidgetsInTheirOrderWheneverTheyAreShown)
+{
+	TSharedPtr<SButton> Below;
+	TSharedPtr<STextBlock> Above;
+	// clang-format off
+	const TSharedRef<SOverlay> Overlay = SNew(SOverlay)
+		+ SOverlay::Slot()[SAssignNew(Below, SButton).Visibility(EVisibility::Collapsed)]
+		+ SOverlay::Slot()[SAssignNew(Above, STextBlock).Text(FText::FromString(TEXT("above")))];
+	// clang-format on
+	Host.SetRoot(Overlay);
+	Frame(Host);
+	Below->SetVisibility(EVisibility::Visible);
+	Frame(Host);
+	const QObjectList Stack = Host.children();
+	EXPECT_LT(Stack.indexOf(&Leaf(*Below)), Stack.indexOf(&Leaf(*Above)));
+}
+
+TEST_F(FSlateHostPage, PressesAButtonOnceHoweverLongTheKeyIsHeld)
+{
+	FSlateApplication::Get().SetKeyboardFocus(Button);
+	Frame(Host);
+	for (const QEvent::Type Type : {QEvent::KeyPress, QEvent::KeyRelease, QEvent::KeyPress, QEvent::KeyRelease})
+	{
+		QKeyEvent Repeated(Type, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "), true);
+		QApplication::sendEvent(&Leaf(*Button), &Repeated);
+	}
+	EXPECT_EQ(TakeTold(), std::vector<std::string>());
+	QTest::keyClick(&Leaf(*Button), Qt::Key_Space);
+	EXPECT_EQ(TakeTold(), std::vector<std::string>{"clicked"});
+}
+
 TEST_F(FSlateHostPage, PressesButtonsWithSpaceAndEnter)
 {
 	FSlateApplication::Get().SetKeyboardFocus(Button);
@@ -199,6 +246,23 @@ TEST_F(FSlateHostPage, ShowsTheStateThatACheckBoxIsBoundTo)
 	Click(*Check);
 	EXPECT_EQ(TakeTold(), std::vector<std::string>{"ticked"});
 	EXPECT_EQ(Shown.checkState(), Qt::Checked);
+}
+
+TEST_F(FSlateHostPage, ChangesNoCheckBoxThatStaysAsItIs)
+{
+	bRefuses = true;
+	QTest::mouseClick(&Leaf(*Check), Qt::LeftButton);
+	EXPECT_EQ(TakeTold(), std::vector<std::string>{"ticked"});
+	EXPECT_EQ(static_cast<QCheckBox&>(Leaf(*Check)).checkState(), Qt::Unchecked) << "not even for a frame";
+}
+
+TEST_F(FSlateHostPage, OpensTheListAtWhatIsSelected)
+{
+	Combo->SetSelectedItem(Options[1]);
+	QComboBox& Shown = static_cast<QComboBox&>(Leaf(*Combo));
+	Shown.showPopup();
+	EXPECT_EQ(Shown.currentIndex(), 1);
+	Shown.hidePopup();
 }
 
 TEST_F(FSlateHostPage, OffersTheOptionsThatThereAreWhenTheListOpens)

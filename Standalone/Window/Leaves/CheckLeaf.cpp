@@ -37,7 +37,6 @@ FCheckLeaf::FCheckLeaf(const TSharedRef<SCheckBox>& CheckBox, QWidget* Parent)
 	: FLeaf(CheckBox, new FToldCheckBox(Parent))
 {
 	QCheckBox& Box = static_cast<QCheckBox&>(*GetQtWidget());
-	Box.setTristate(true);
 	Box.setFocusPolicy(Qt::StrongFocus);
 	new FLeafEvents(CheckBox, &Box, FLeafEvents::Pointer | FLeafEvents::PressKeys);
 }

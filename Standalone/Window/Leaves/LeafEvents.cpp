@@ -5,7 +5,6 @@
 #include "Framework/Application/SlateApplication.h"
 #include "InputCoreTypes.h"
 #include "Layout/WidgetPath.h"
-#include "SlateHost.h"
 #include "Widgets/SWidget.h"
 
 namespace
@@ -48,11 +47,6 @@ namespace
 			default:
 				return FKey();
 		}
-	}
-
-	bool IsAnyOfHost(const QWidget* Candidate)
-	{
-		return Candidate && dynamic_cast<const FSlateHost*>(Candidate->parentWidget());
 	}
 }
 
@@ -103,11 +97,6 @@ void FLeafEvents::OnPointer(const QMouseEvent& Event)
 		return;
 	}
 	const bool bDown = Event.type() != QEvent::MouseButtonRelease;
-	if (!bDown && !bPointerDown)
-	{
-		return;
-	}
-	bPointerDown = bDown;
 	FWidgetPath Path;
 	// A release beside the widget goes to nobody, which ends the press without a click.
 	if (bDown || Watched->rect().contains(Event.position().toPoint()))
@@ -172,9 +161,7 @@ void FLeafEvents::OnFocusOut(Qt::FocusReason Reason)
 		return;
 	}
 	FSlateApplication& Application = FSlateApplication::Get();
-	// Another leaf takes the focus itself: one move, one commit.
-	const bool bGoesToLeaf = IsAnyOfHost(QApplication::focusWidget());
-	if (!bGoesToLeaf && Application.GetKeyboardFocusedWidget() == Widget.Pin())
+	if (Application.GetKeyboardFocusedWidget() == Widget.Pin())
 	{
 		const EFocusCause Cause = GetCause(Reason);
 		Application.ClearKeyboardFocus(Cause == EFocusCause::SetDirectly ? EFocusCause::Cleared : Cause);

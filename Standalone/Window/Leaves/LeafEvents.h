@@ -43,6 +43,4 @@ private:
 	TWeakPtr<SWidget> Widget;
 	QWidget* Watched;
 	int Input;
-	/** For the second of two pointer events: where the first one went down. */
-	bool bPointerDown = false;
 };

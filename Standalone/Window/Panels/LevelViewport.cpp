@@ -2,7 +2,7 @@
 #include "LevelViewport.h"
 
 #include <algorithm>
-#include <cstring>
+#include <cmath>
 
 #include "ActorEdits.h"
 #include "EditorViewportClient.h"
@@ -21,11 +21,20 @@ namespace
 	constexpr double PanPerUnit = 2.0;
 	constexpr double MovePerNotch = 100.0;
 
-	/** By bits, as what is not a number differs from itself. */
-	template <typename T>
-	bool IsSame(const T& Left, const T& Right)
+	/** What is not a number would differ from itself, and be painted again and again. */
+	bool IsSame(float Left, float Right)
 	{
-		return std::memcmp(&Left, &Right, sizeof(T)) == 0;
+		return Left == Right || (std::isnan(Left) && std::isnan(Right));
+	}
+
+	bool IsSame(const FVector& Left, const FVector& Right)
+	{
+		return IsSame(Left.X, Right.X) && IsSame(Left.Y, Right.Y) && IsSame(Left.Z, Right.Z);
+	}
+
+	bool IsSame(const FRotator& Left, const FRotator& Right)
+	{
+		return IsSame(Left.Pitch, Right.Pitch) && IsSame(Left.Yaw, Right.Yaw) && IsSame(Left.Roll, Right.Roll);
 	}
 }
 
