@@ -346,3 +346,12 @@ TEST_F(FSenderOptions, TakeNoMemoryForEachSenderBeyondItsReportedName)
 	EXPECT_EQ(Count([&] { Options.RefreshOptions(Current, false); }), OfNames + 2) << "reversed";
 }
 #endif
+
+TEST_F(FSenderOptions, TakeTheFirstOfTwoEqualEntriesForTheCurrentOneWhenSomebodyRenamesTheFirstEntry)
+{
+	Refresh({}, TEXT("lost"));
+	EXPECT_EQ(Options.GetCurrentOption(), &Options.Options[1]);
+	*Options.Options[0] = TEXT("lost");
+	EXPECT_EQ(RefreshAgain(TEXT("lost")), "lost; lost; ");
+	EXPECT_EQ(Options.GetCurrentOption(), &Options.Options[0]);
+}

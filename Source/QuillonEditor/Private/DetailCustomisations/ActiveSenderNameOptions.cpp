@@ -115,8 +115,9 @@ const TSharedPtr<FString>* FActiveSenderNameOptions::GetCurrentOption() const
 
 void FActiveSenderNameOptions::FindCurrentOption(const FString& CurrentName)
 {
-	// Mostly it is where it was.
-	if (!Options.IsValidIndex(CurrentOption) || !IsSameName(*Options[CurrentOption], CurrentName))
+	// Mostly it is where it was. Only the first entry can have become another one of that text and go before it.
+	if (!Options.IsValidIndex(CurrentOption) || !IsSameName(*Options[CurrentOption], CurrentName) ||
+		IsSameName(*Options[0], CurrentName))
 	{
 		CurrentOption = Options.IndexOfByPredicate(
 			[&CurrentName](const TSharedPtr<FString>& Option) { return IsSameName(*Option, CurrentName); });
