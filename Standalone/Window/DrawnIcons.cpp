@@ -1,6 +1,7 @@
 // Copyright Corvane. MIT License.
 #include "DrawnIcons.h"
 
+#include "PaintedIcon.h"
 #include "WindowStyle.h"
 
 #include <map>
@@ -94,7 +95,7 @@ namespace
 			{QPointF(6.5, 6.0), QPointF(6.5, 3.5), QPointF(12.5, 3.5), QPointF(12.5, 9.5), QPointF(10.0, 9.5)}));
 	}
 
-	class FDrawnIcon : public QIconEngine
+	class FDrawnIcon : public FPaintedIcon
 	{
 	public:
 		explicit FDrawnIcon(FDraw InDraw) : Draw(InDraw) {}
@@ -109,14 +110,6 @@ namespace
 			Painter->setPen(QPen(QColor(215, 215, 215), 1.3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
 			Draw(*Painter);
 			Painter->restore();
-		}
-		QPixmap pixmap(const QSize& Size, QIcon::Mode Mode, QIcon::State State) override
-		{
-			QPixmap Pixmap(Size);
-			Pixmap.fill(Qt::transparent);
-			QPainter Painter(&Pixmap);
-			paint(&Painter, QRect(QPoint(), Size), Mode, State);
-			return Pixmap;
 		}
 		QIconEngine* clone() const override { return new FDrawnIcon(*this); }
 

@@ -1,6 +1,7 @@
 // Copyright Corvane. MIT License.
 #include "WindowImages.h"
 
+#include "PaintedIcon.h"
 #include "DrawnIcons.h"
 #include "WindowText.h"
 
@@ -91,7 +92,7 @@ namespace
 	}
 
 	/** Draws an image of the style sets in whatever resolution it is asked for. */
-	class FBrushIcon : public QIconEngine
+	class FBrushIcon : public FPaintedIcon
 	{
 	public:
 		explicit FBrushIcon(const QString& InFile) : File(InFile) {}
@@ -103,14 +104,6 @@ namespace
 			Painter->setRenderHint(QPainter::SmoothPixmapTransform);
 			Painter->setOpacity(Mode == QIcon::Disabled ? 0.35 : 1.0);
 			Painter->drawImage(Rect, Image);
-		}
-		QPixmap pixmap(const QSize& Size, QIcon::Mode Mode, QIcon::State State) override
-		{
-			QPixmap Pixmap(Size);
-			Pixmap.fill(Qt::transparent);
-			QPainter Painter(&Pixmap);
-			paint(&Painter, QRect(QPoint(), Size), Mode, State);
-			return Pixmap;
 		}
 		QIconEngine* clone() const override { return new FBrushIcon(*this); }
 
